@@ -36,11 +36,44 @@ Tav64sc* tavsMalloc_64sc(int len);
 /* Releases a block from tavsMalloc_*; NULL is accepted. */
 void tavsFree(void* ptr);
 
-/* @@MOVERS@@ */
+/* ---- zero: dst[i] = all-zero bytes (+0 in float types) --------------- */
+Status tavsZero_8u(Tav8u* dst, int len);
+Status tavsZero_16s(Tav16s* dst, int len);
+Status tavsZero_16sc(Tav16sc* dst, int len);
+Status tavsZero_32f(Tav32f* dst, int len);
+Status tavsZero_32s(Tav32s* dst, int len);
+Status tavsZero_32fc(Tav32fc* dst, int len);
+Status tavsZero_32sc(Tav32sc* dst, int len);
+Status tavsZero_64f(Tav64f* dst, int len);
+Status tavsZero_64s(Tav64s* dst, int len);
+Status tavsZero_64fc(Tav64fc* dst, int len);
+Status tavsZero_64sc(Tav64sc* dst, int len);
+
+/* @@MOVERS@@ (copy, move, set, flip, swap bytes, bit copies) */
 
 /* ==== Element-wise arithmetic =========================================== */
 
-/* @@ARITH21@@ */
+/* @@ARITH21@@ (add, subtract, multiply, add product, square, abs) */
+
+/* @@ARITH22@@ (constant forms) */
+
+/* @@ARITH23@@ (division) */
+
+/* @@ARITH24@@ (conversion) */
+
+/* @@ARITH25@@ (thresholds) */
+
+/* @@ARITH26@@ (logic, shifts, complex helpers) */
+
+/* ==== Transforms ========================================================= */
+
+/* @@TRANSFORM31@@ (FFT records) */
+
+/* @@TRANSFORM32@@ (complex FFT) */
+
+/* ==== Statistics ========================================================= */
+
+/* @@STATS@@ (sums, means, deviations, extrema, norms, dot products) */
 
 #ifdef __cplusplus
 }
