@@ -36,6 +36,19 @@ Tav64sc* tavsMalloc_64sc(int len);
 /* Releases a block from tavsMalloc_*; NULL is accepted. */
 void tavsFree(void* ptr);
 
+/* ---- copy: dst[i] = src[i]; overlapping vectors are not handled ------- */
+Status tavsCopy_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsCopy_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsCopy_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsCopy_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsCopy_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsCopy_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsCopy_32sc(const Tav32sc* src, Tav32sc* dst, int len);
+Status tavsCopy_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsCopy_64s(const Tav64s* src, Tav64s* dst, int len);
+Status tavsCopy_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsCopy_64sc(const Tav64sc* src, Tav64sc* dst, int len);
+
 /* ---- zero: dst[i] = all-zero bytes (+0 in float types) --------------- */
 Status tavsZero_8u(Tav8u* dst, int len);
 Status tavsZero_16s(Tav16s* dst, int len);
