@@ -1,17 +1,16 @@
 // tavsCopy_*: a forward copy of len * elemSize bytes, one body per element
-// size. The destination runs on 16-byte boundaries, 16 bytes a store; no
-// non-temporal stores. Overlapping vectors are not handled (tavsMove_* is
-// for that).
+// size. Overlapping vectors are not handled (tavsMove_* is for that).
+#include <cstring>
+
 #include "internal/body.h"
 #include "internal/movers.h"
-#include "internal/movers_more.h"
 
 namespace {
 Status copy_bytes(const void* src, void* dst, int len, size_t elemSize)
 {
     if (src == nullptr || dst == nullptr) return ErrNullPtr;
     if (len < 1) return ErrSize;
-    tavs::bytes::copy(static_cast<unsigned char*>(dst), static_cast<const unsigned char*>(src), size_t(len) * elemSize);
+    std::memcpy(dst, src, size_t(len) * elemSize);
     return StatusOk;
 }
 } // namespace

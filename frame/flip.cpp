@@ -11,6 +11,7 @@
 namespace {
 using tavs::bytes::load16;
 using tavs::bytes::store16;
+using tavs::bytes::store16a;
 
 // The 16 bytes of v as 16 / E elements of E bytes in reverse order.
 template <size_t E> inline __m128i reverse(__m128i v)
@@ -42,6 +43,11 @@ template <size_t E> inline void swap_elems(unsigned char* a, unsigned char* b)
 template <size_t E> void flip_in_place(unsigned char* p, size_t n)
 {
     size_t f = 0, b = n;
+    // Elements from both ends until the front is on a 16-byte boundary (when
+    // the vector is element-aligned), so half of the stores are aligned.
+    if (reinterpret_cast<uintptr_t>(p) % E == 0)
+        for (; (reinterpret_cast<uintptr_t>(p + f) & 15) != 0 && b - f >= 2 * E; f += E, b -= E)
+            swap_elems<E>(p + f, p + b - E);
     for (; b - f >= 32; f += 16, b -= 16) {
         const __m128i lo = load16(p + f), hi = load16(p + b - 16);
         store16(p + f, reverse<E>(hi));
@@ -54,6 +60,17 @@ template <size_t E> void flip_in_place(unsigned char* p, size_t n)
 template <size_t E> void flip_apart(const unsigned char* s, unsigned char* d, size_t n)
 {
     size_t i = 0;
+    // Elements until the destination is on a 16-byte boundary (when it is
+    // element-aligned at all), then aligned stores.
+    if (reinterpret_cast<uintptr_t>(d) % E == 0)
+        for (; (reinterpret_cast<uintptr_t>(d + i) & 15) != 0 && i < n; i += E) move_elem<E>(d + i, s + n - i - E);
+    if ((reinterpret_cast<uintptr_t>(d + i) & 15) == 0) {
+        for (; n - i >= 32; i += 32) {
+            const __m128i a = load16(s + n - i - 16), b = load16(s + n - i - 32);
+            store16a(d + i, reverse<E>(a));
+            store16a(d + i + 16, reverse<E>(b));
+        }
+    }
     for (; n - i >= 32; i += 32) {
         const __m128i a = load16(s + n - i - 16), b = load16(s + n - i - 32);
         store16(d + i, reverse<E>(a));

@@ -1,6 +1,8 @@
 // tavsMove_*: copy with overlap handled, one body per element size. The
-// bytes land as if copied through a temporary: the direction of the copy
-// follows from the two addresses.
+// bytes land as if copied through a temporary: memmove picks the direction
+// of the copy from the two addresses.
+#include <cstring>
+
 #include "internal/body.h"
 #include "internal/movers_more.h"
 
@@ -9,7 +11,7 @@ Status move_bytes(const void* src, void* dst, int len, size_t elemSize)
 {
     if (src == nullptr || dst == nullptr) return ErrNullPtr;
     if (len < 1) return ErrSize;
-    tavs::bytes::move(static_cast<unsigned char*>(dst), static_cast<const unsigned char*>(src), size_t(len) * elemSize);
+    std::memmove(dst, src, size_t(len) * elemSize);
     return StatusOk;
 }
 } // namespace

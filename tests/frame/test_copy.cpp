@@ -50,7 +50,7 @@ TEST(Copy, EveryType)
 
 TEST(Copy, EveryByteLengthAndAlignment)
 {
-    // Byte lengths past the 64-byte steps, every source and destination
+    // Short and long byte lengths, every source and destination
     // offset inside a 16-byte line.
     tt::Rng r(9);
     std::vector<int> lens;

@@ -71,7 +71,7 @@ TEST(Move, EveryElementSizeAgainstMemmove)
         check_move_against_memmove<Tav64f>(tavsMove_64f, {1, 2, 3, 7, 8, 9, 16, 35}, base);
         check_move_against_memmove<Tav64fc>(tavsMove_64fc, {1, 2, 3, 4, 5, 9, 17}, base);
     }
-    // Long runs: the 64-byte steps in both directions.
+    // Long runs in both directions.
     check_move_against_memmove<Tav8u>(tavsMove_8u, {255, 256, 257, 1000}, 3);
     check_move_against_memmove<Tav32s>(tavsMove_32s, {97, 128}, 1);
 }
