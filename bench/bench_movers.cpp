@@ -12,7 +12,8 @@ namespace {
 std::vector<float> ramp(size_t n)
 {
     std::vector<float> v(n);
-    for (size_t i = 0; i < n; ++i) v[i] = float(i) * 0.25f;
+    for (size_t i = 0; i < n; ++i)
+        v[i] = float(i) * 0.25f;
     return v;
 }
 
@@ -57,7 +58,8 @@ void bm_set_32f_loop(benchmark::State& state)
     std::vector<float> dst(static_cast<size_t>(n));
     float* d = dst.data();
     for (auto _ : state) {
-        for (int i = 0; i < n; ++i) d[i] = 1.5f;
+        for (int i = 0; i < n; ++i)
+            d[i] = 1.5f;
         benchmark::ClobberMemory();
     }
     state.SetItemsProcessed(state.iterations() * n);
@@ -83,7 +85,8 @@ void bm_flip_32f_loop(benchmark::State& state)
     const float* s = src.data();
     float* d = dst.data();
     for (auto _ : state) {
-        for (int i = 0; i < n; ++i) d[i] = s[n - 1 - i];
+        for (int i = 0; i < n; ++i)
+            d[i] = s[n - 1 - i];
         benchmark::ClobberMemory();
     }
     state.SetItemsProcessed(state.iterations() * n);

@@ -53,7 +53,8 @@ struct LsbFirst {
 // len bits: a head up to the next destination byte, whole destination
 // bytes, then a tail. With equal positions the whole bytes go through the
 // byte copier. No byte outside the run is read or written.
-template <class Order> Status copy_bits(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len)
+template <class Order>
+Status copy_bits(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len)
 {
     if (tavs::any_null(src, dst)) return ErrNullPtr;
     if (srcBitOffset < 0 || dstBitOffset < 0 || len < 1) return ErrSize;
@@ -74,7 +75,8 @@ template <class Order> Status copy_bits(const Tav8u* src, int srcBitOffset, Tav8
             // whole < 2^28, so the byte count fits the copier's length.
             tavs::copy_elems(src, dst, int(whole));
         } else {
-            for (size_t i = 0; i < whole; ++i) dst[i] = Order::byte(src + i, sp);
+            for (size_t i = 0; i < whole; ++i)
+                dst[i] = Order::byte(src + i, sp);
         }
         src += whole;
         dst += whole;
@@ -99,8 +101,8 @@ Status tavsCopyBE_1u_body(const Tav8u* src, int srcBitOffset, Tav8u* dst, int ds
 
 // The fields go through a 64-bit accumulator (right-aligned, nbits valid
 // bits) that is emptied in whole bytes before a field would not fit.
-Status tavsPackBits_32u8u_body(const Tav32u* src, const Tav32s* bitCounts, int len, Tav8u* dst, int dstBitOffset,
-                               Tav32s* totalBits)
+Status tavsPackBits_32u8u_body(const Tav32u* src, const Tav32s* bitCounts, int len, Tav8u* dst,
+                               int dstBitOffset, Tav32s* totalBits)
 {
     if (tavs::any_null(src, bitCounts, dst, totalBits)) return ErrNullPtr;
     if (len < 1 || dstBitOffset < 0) return ErrSize;
@@ -122,14 +124,16 @@ Status tavsPackBits_32u8u_body(const Tav32u* src, const Tav32s* bitCounts, int l
         }
         if (c == 0) continue;
         if (nbits + unsigned(c) > 64) {
-            for (; nbits >= 8; nbits -= 8) *dst++ = Tav8u(acc >> (nbits - 8));
+            for (; nbits >= 8; nbits -= 8)
+                *dst++ = Tav8u(acc >> (nbits - 8));
             acc &= low_mask(nbits);
         }
         acc = (acc << c) | (uint64_t(src[i]) & ((uint64_t(1) << c) - 1));
         nbits += unsigned(c);
         total += uint32_t(c);
     }
-    for (; nbits >= 8; nbits -= 8) *dst++ = Tav8u(acc >> (nbits - 8));
+    for (; nbits >= 8; nbits -= 8)
+        *dst++ = Tav8u(acc >> (nbits - 8));
     if (nbits != 0) {
         // The last partial byte keeps the low bits already in dst.
         const unsigned m = low_mask(nbits) << (8 - nbits);

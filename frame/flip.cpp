@@ -16,8 +16,10 @@ using tavs::bytes::store16a;
 // The 16 bytes of v as 16 / E elements of E bytes in reverse order.
 template <size_t E> inline __m128i reverse(__m128i v)
 {
-    if constexpr (E == 16) return v;
-    else if constexpr (E == 8) return _mm_shuffle_epi32(v, 0x4E);
+    if constexpr (E == 16)
+        return v;
+    else if constexpr (E == 8)
+        return _mm_shuffle_epi32(v, 0x4E);
     else {
         v = _mm_shuffle_epi32(v, 0x1B);
         if constexpr (E <= 2) {
@@ -53,7 +55,8 @@ template <size_t E> void flip_in_place(unsigned char* p, size_t n)
         store16(p + f, reverse<E>(hi));
         store16(p + b - 16, reverse<E>(lo));
     }
-    for (; b - f >= 2 * E; f += E, b -= E) swap_elems<E>(p + f, p + b - E);
+    for (; b - f >= 2 * E; f += E, b -= E)
+        swap_elems<E>(p + f, p + b - E);
 }
 
 // Out of place, the ranges apart: dst ascending, src descending.
@@ -63,7 +66,8 @@ template <size_t E> void flip_apart(const unsigned char* s, unsigned char* d, si
     // Elements until the destination is on a 16-byte boundary (when it is
     // element-aligned at all), then aligned stores.
     if (reinterpret_cast<uintptr_t>(d) % E == 0)
-        for (; (reinterpret_cast<uintptr_t>(d + i) & 15) != 0 && i < n; i += E) move_elem<E>(d + i, s + n - i - E);
+        for (; (reinterpret_cast<uintptr_t>(d + i) & 15) != 0 && i < n; i += E)
+            move_elem<E>(d + i, s + n - i - E);
     if ((reinterpret_cast<uintptr_t>(d + i) & 15) == 0) {
         for (; n - i >= 32; i += 32) {
             const __m128i a = load16(s + n - i - 16), b = load16(s + n - i - 32);
@@ -76,8 +80,10 @@ template <size_t E> void flip_apart(const unsigned char* s, unsigned char* d, si
         store16(d + i, reverse<E>(a));
         store16(d + i + 16, reverse<E>(b));
     }
-    for (; n - i >= 16; i += 16) store16(d + i, reverse<E>(load16(s + n - i - 16)));
-    for (; i < n; i += E) move_elem<E>(d + i, s + n - i - E);
+    for (; n - i >= 16; i += 16)
+        store16(d + i, reverse<E>(load16(s + n - i - 16)));
+    for (; i < n; i += E)
+        move_elem<E>(d + i, s + n - i - E);
 }
 
 template <class T> Status flip_i(T* srcDst, int len)
@@ -105,14 +111,26 @@ Status tavsFlip_32fc_I_body(Tav32fc* srcDst, int len) { return flip_i(srcDst, le
 Status tavsFlip_64f_I_body(Tav64f* srcDst, int len) { return flip_i(srcDst, len); }
 Status tavsFlip_64fc_I_body(Tav64fc* srcDst, int len) { return flip_i(srcDst, len); }
 
-Status tavsFlip_8u_body(const Tav8u* src, Tav8u* dst, int len) { return flip(src, dst, len, tavsFlip_8u_I_body); }
-Status tavsFlip_16u_body(const Tav16u* src, Tav16u* dst, int len) { return flip(src, dst, len, tavsFlip_16u_I_body); }
-Status tavsFlip_32f_body(const Tav32f* src, Tav32f* dst, int len) { return flip(src, dst, len, tavsFlip_32f_I_body); }
+Status tavsFlip_8u_body(const Tav8u* src, Tav8u* dst, int len)
+{
+    return flip(src, dst, len, tavsFlip_8u_I_body);
+}
+Status tavsFlip_16u_body(const Tav16u* src, Tav16u* dst, int len)
+{
+    return flip(src, dst, len, tavsFlip_16u_I_body);
+}
+Status tavsFlip_32f_body(const Tav32f* src, Tav32f* dst, int len)
+{
+    return flip(src, dst, len, tavsFlip_32f_I_body);
+}
 Status tavsFlip_32fc_body(const Tav32fc* src, Tav32fc* dst, int len)
 {
     return flip(src, dst, len, tavsFlip_32fc_I_body);
 }
-Status tavsFlip_64f_body(const Tav64f* src, Tav64f* dst, int len) { return flip(src, dst, len, tavsFlip_64f_I_body); }
+Status tavsFlip_64f_body(const Tav64f* src, Tav64f* dst, int len)
+{
+    return flip(src, dst, len, tavsFlip_64f_I_body);
+}
 Status tavsFlip_64fc_body(const Tav64fc* src, Tav64fc* dst, int len)
 {
     return flip(src, dst, len, tavsFlip_64fc_I_body);

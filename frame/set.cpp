@@ -18,7 +18,8 @@ using tavs::bytes::store16a;
 void fill(unsigned char* d, size_t n, const unsigned char* pat)
 {
     if (n < 16) {
-        for (size_t i = 0; i < n; ++i) d[i] = pat[i & 15];
+        for (size_t i = 0; i < n; ++i)
+            d[i] = pat[i & 15];
         return;
     }
     store16(d, load16(pat));
@@ -32,7 +33,8 @@ void fill(unsigned char* d, size_t n, const unsigned char* pat)
         store16a(p + 32, v);
         store16a(p + 48, v);
     }
-    for (; m >= 16; m -= 16, p += 16) store16a(p, v);
+    for (; m >= 16; m -= 16, p += 16)
+        store16a(p, v);
     if (m) store16(d + n - 16, load16(pat + ((n - 16) & 15)));
 }
 
@@ -41,7 +43,8 @@ template <class T> Status set_elems(const T& val, T* dst, int len)
     static_assert(16 % sizeof(T) == 0);
     if (Status st = tavs::check_ptrs_len(len, dst); st != StatusOk) return st;
     unsigned char pat[32];
-    for (size_t i = 0; i < sizeof pat; i += sizeof(T)) std::memcpy(pat + i, &val, sizeof(T));
+    for (size_t i = 0; i < sizeof pat; i += sizeof(T))
+        std::memcpy(pat + i, &val, sizeof(T));
     fill(reinterpret_cast<unsigned char*>(dst), size_t(len) * sizeof(T), pat);
     return StatusOk;
 }

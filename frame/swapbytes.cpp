@@ -14,9 +14,12 @@ using tavs::bytes::store16;
 
 template <class T> inline T swap_scalar(T x)
 {
-    if constexpr (sizeof(T) == 2) return T(__builtin_bswap16(x));
-    else if constexpr (sizeof(T) == 4) return __builtin_bswap32(x);
-    else return __builtin_bswap64(x);
+    if constexpr (sizeof(T) == 2)
+        return T(__builtin_bswap16(x));
+    else if constexpr (sizeof(T) == 4)
+        return __builtin_bswap32(x);
+    else
+        return __builtin_bswap64(x);
 }
 
 template <size_t E> inline __m128i swap_lanes(__m128i v)
@@ -37,7 +40,8 @@ template <class T> void swap_kernel(const T* src, T* dst, int len)
         store16(d + i, swap_lanes<sizeof(T)>(a));
         store16(d + i + 16, swap_lanes<sizeof(T)>(b));
     }
-    for (; n - i >= 16; i += 16) store16(d + i, swap_lanes<sizeof(T)>(load16(s + i)));
+    for (; n - i >= 16; i += 16)
+        store16(d + i, swap_lanes<sizeof(T)>(load16(s + i)));
     for (; i < n; i += sizeof(T)) {
         T x;
         std::memcpy(&x, s + i, sizeof(T));
@@ -71,11 +75,15 @@ struct Masks24 {
 };
 constexpr Masks24 kMasks24;
 
-inline __m128i mask24(const unsigned char (&m)[48], int r) { return _mm_load_si128(reinterpret_cast<const __m128i*>(m + 16 * r)); }
+inline __m128i mask24(const unsigned char (&m)[48], int r)
+{
+    return _mm_load_si128(reinterpret_cast<const __m128i*>(m + 16 * r));
+}
 
 inline __m128i pick24(__m128i plus2, __m128i x, __m128i minus2, int r)
 {
-    return _mm_or_si128(_mm_or_si128(_mm_and_si128(plus2, mask24(kMasks24.up, r)), _mm_and_si128(x, mask24(kMasks24.keep, r))),
+    return _mm_or_si128(_mm_or_si128(_mm_and_si128(plus2, mask24(kMasks24.up, r)),
+                                     _mm_and_si128(x, mask24(kMasks24.keep, r))),
                         _mm_and_si128(minus2, mask24(kMasks24.down, r)));
 }
 
@@ -94,16 +102,19 @@ void swap24_blocks(const unsigned char* s, unsigned char* d, size_t count)
     for (; count - i >= 16; i += 16) {
         const unsigned char* q = s + 3 * i;
         const __m128i a = load16(q), b = load16(q + 16), c = load16(q + 32);
-        const __m128i ra = pick24(_mm_or_si128(_mm_srli_si128(a, 2), _mm_slli_si128(b, 14)), a, _mm_slli_si128(a, 2), 0);
+        const __m128i ra =
+            pick24(_mm_or_si128(_mm_srli_si128(a, 2), _mm_slli_si128(b, 14)), a, _mm_slli_si128(a, 2), 0);
         const __m128i rb = pick24(_mm_or_si128(_mm_srli_si128(b, 2), _mm_slli_si128(c, 14)), b,
                                   _mm_or_si128(_mm_slli_si128(b, 2), _mm_srli_si128(a, 14)), 1);
-        const __m128i rc = pick24(_mm_srli_si128(c, 2), c, _mm_or_si128(_mm_slli_si128(c, 2), _mm_srli_si128(b, 14)), 2);
+        const __m128i rc =
+            pick24(_mm_srli_si128(c, 2), c, _mm_or_si128(_mm_slli_si128(c, 2), _mm_srli_si128(b, 14)), 2);
         unsigned char* p = d + 3 * i;
         store16(p, ra);
         store16(p + 16, rb);
         store16(p + 32, rc);
     }
-    for (; i < count; ++i) swap24_elem(s + 3 * i, d + 3 * i);
+    for (; i < count; ++i)
+        swap24_elem(s + 3 * i, d + 3 * i);
 }
 
 // Overlapping ranges: one element at a time, each read whole before it is
@@ -112,9 +123,11 @@ void swap24_blocks(const unsigned char* s, unsigned char* d, size_t count)
 void swap24_overlap(const unsigned char* s, unsigned char* d, size_t count)
 {
     if (d <= s)
-        for (size_t i = 0; i < count; ++i) swap24_elem(s + 3 * i, d + 3 * i);
+        for (size_t i = 0; i < count; ++i)
+            swap24_elem(s + 3 * i, d + 3 * i);
     else
-        for (size_t i = count; i-- > 0;) swap24_elem(s + 3 * i, d + 3 * i);
+        for (size_t i = count; i-- > 0;)
+            swap24_elem(s + 3 * i, d + 3 * i);
 }
 } // namespace
 
@@ -131,8 +144,10 @@ Status tavsSwapBytes_24u_body(const Tav8u* src, Tav8u* dst, int len)
     if (Status st = tavs::check_ptrs_len(len, src, dst); st != StatusOk) return st;
     const size_t n = 3 * size_t(len);
     const uintptr_t s = reinterpret_cast<uintptr_t>(src), d = reinterpret_cast<uintptr_t>(dst);
-    if (s != d && s < d + n && d < s + n) swap24_overlap(src, dst, size_t(len));
-    else swap24_blocks(src, dst, size_t(len));
+    if (s != d && s < d + n && d < s + n)
+        swap24_overlap(src, dst, size_t(len));
+    else
+        swap24_blocks(src, dst, size_t(len));
     return StatusOk;
 }
 

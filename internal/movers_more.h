@@ -26,11 +26,16 @@ namespace tavs {
 // The move body for elements of type T.
 template <class T> inline Status move_elems(const T* src, T* dst, int len)
 {
-    if constexpr (sizeof(T) == 1) return tavs_move_1(src, dst, len);
-    else if constexpr (sizeof(T) == 2) return tavs_move_2(src, dst, len);
-    else if constexpr (sizeof(T) == 4) return tavs_move_4(src, dst, len);
-    else if constexpr (sizeof(T) == 8) return tavs_move_8(src, dst, len);
-    else return tavs_move_16(src, dst, len);
+    if constexpr (sizeof(T) == 1)
+        return tavs_move_1(src, dst, len);
+    else if constexpr (sizeof(T) == 2)
+        return tavs_move_2(src, dst, len);
+    else if constexpr (sizeof(T) == 4)
+        return tavs_move_4(src, dst, len);
+    else if constexpr (sizeof(T) == 8)
+        return tavs_move_8(src, dst, len);
+    else
+        return tavs_move_16(src, dst, len);
 }
 } // namespace tavs
 

@@ -28,7 +28,8 @@ void set_bit(std::vector<Tav8u>& v, size_t k, bool bit, bool msbFirst)
 std::vector<Tav8u> random_bytes(tt::Rng& r, size_t n)
 {
     std::vector<Tav8u> v(n);
-    for (auto& b : v) b = static_cast<Tav8u>(r.next());
+    for (auto& b : v)
+        b = static_cast<Tav8u>(r.next());
     return v;
 }
 
@@ -45,7 +46,8 @@ void check_bit_copy(BitCopy fn, bool msbFirst)
         const auto src = random_bytes(r, (sp + size_t(len) + 7) / 8);
         auto dst = random_bytes(r, (dp + size_t(len) + 7) / 8);
         auto want = dst;
-        for (size_t i = 0; i < size_t(len); ++i) set_bit(want, dp + i, get_bit(src, sp + i, msbFirst), msbFirst);
+        for (size_t i = 0; i < size_t(len); ++i)
+            set_bit(want, dp + i, get_bit(src, sp + i, msbFirst), msbFirst);
         ASSERT_EQ(fn(src.data(), so, dst.data(), dof, len), StatusOk);
         ASSERT_EQ(dst, want) << "src offset " << so << " dst offset " << dof << " len " << len;
     }
@@ -124,8 +126,8 @@ struct Packed {
 
 // Reference bit writer: clamps each count, writes its low bits most
 // significant first from bit (offset & 7) of dst[0]; other bits keep.
-Packed pack_reference(const std::vector<Tav32u>& src, const std::vector<Tav32s>& counts, std::vector<Tav8u> dst,
-                      int offset)
+Packed pack_reference(const std::vector<Tav32u>& src, const std::vector<Tav32s>& counts,
+                      std::vector<Tav8u> dst, int offset)
 {
     size_t pos = size_t(offset & 7);
     int64_t total = 0;
@@ -134,7 +136,8 @@ Packed pack_reference(const std::vector<Tav32u>& src, const std::vector<Tav32s>&
         int c = counts[i];
         if (c > 32) c = 32, st = WarnBitCount;
         if (c < 0) c = 0, st = WarnBitCount;
-        for (int j = c - 1; j >= 0; --j) set_bit(dst, pos++, ((src[i] >> j) & 1u) != 0, true);
+        for (int j = c - 1; j >= 0; --j)
+            set_bit(dst, pos++, ((src[i] >> j) & 1u) != 0, true);
         total += c;
     }
     return {dst, Tav32s(total), st};
@@ -143,12 +146,18 @@ Packed pack_reference(const std::vector<Tav32u>& src, const std::vector<Tav32s>&
 Tav32s random_count(tt::Rng& r)
 {
     switch (r.next() % 10) {
-    case 0: return Tav32s(r.range(33, 40));
-    case 1: return Tav32s(r.range(-3, -1));
-    case 2: return r.next() % 2 ? INT32_MAX : INT32_MIN;
-    case 3: return 0;
-    case 4: return 32;
-    default: return Tav32s(r.range(1, 31));
+    case 0:
+        return Tav32s(r.range(33, 40));
+    case 1:
+        return Tav32s(r.range(-3, -1));
+    case 2:
+        return r.next() % 2 ? INT32_MAX : INT32_MIN;
+    case 3:
+        return 0;
+    case 4:
+        return 32;
+    default:
+        return Tav32s(r.range(1, 31));
     }
 }
 

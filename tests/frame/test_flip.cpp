@@ -11,7 +11,8 @@ namespace {
 std::vector<unsigned char> random_bytes(tt::Rng& r, size_t n)
 {
     std::vector<unsigned char> v(n);
-    for (auto& b : v) b = static_cast<unsigned char>(r.next());
+    for (auto& b : v)
+        b = static_cast<unsigned char>(r.next());
     return v;
 }
 
@@ -20,7 +21,8 @@ std::vector<unsigned char> random_bytes(tt::Rng& r, size_t n)
 std::vector<unsigned char> flipped(const unsigned char* s, size_t len, size_t e)
 {
     std::vector<unsigned char> out(len * e);
-    for (size_t i = 0; i < len; ++i) std::memcpy(out.data() + i * e, s + (len - 1 - i) * e, e);
+    for (size_t i = 0; i < len; ++i)
+        std::memcpy(out.data() + i * e, s + (len - 1 - i) * e, e);
     return out;
 }
 
@@ -28,8 +30,10 @@ template <class T, class F, class FI> void check_flip(F fn, FI fnI)
 {
     tt::Rng r(31 + sizeof(T));
     std::vector<int> lens;
-    for (int len = 1; len <= 70; ++len) lens.push_back(len);
-    for (int len : {255, 256, 257}) lens.push_back(len);
+    for (int len = 1; len <= 70; ++len)
+        lens.push_back(len);
+    for (int len : {255, 256, 257})
+        lens.push_back(len);
     for (int len : lens)
         for (size_t off = 0; off < 16; ++off) {
             const size_t n = size_t(len) * sizeof(T);
@@ -53,7 +57,8 @@ template <class T, class F, class FI> void check_flip(F fn, FI fnI)
             tt::Guarded<T> k(size_t(len), off);
             std::memcpy(k.data(), s, n);
             ASSERT_EQ(fn(k.data(), k.data(), len), StatusOk);
-            ASSERT_EQ(std::memcmp(k.data(), want.data(), n), 0) << "same vector len " << len << " off " << off;
+            ASSERT_EQ(std::memcmp(k.data(), want.data(), n), 0)
+                << "same vector len " << len << " off " << off;
             ASSERT_TRUE(k.borders_intact());
         }
     // Errors: pointers first, then the length; nothing written.
@@ -88,9 +93,11 @@ TEST(Flip, EveryTypeLengthAndOffset)
 TEST(Flip, SameVectorReversesInPlace16u)
 {
     std::vector<Tav16u> v(37);
-    for (size_t i = 0; i < v.size(); ++i) v[i] = Tav16u(1000 + i);
+    for (size_t i = 0; i < v.size(); ++i)
+        v[i] = Tav16u(1000 + i);
     ASSERT_EQ(tavsFlip_16u(v.data(), v.data(), 37), StatusOk);
-    for (size_t i = 0; i < v.size(); ++i) ASSERT_EQ(v[i], Tav16u(1000 + 36 - i));
+    for (size_t i = 0; i < v.size(); ++i)
+        ASSERT_EQ(v[i], Tav16u(1000 + 36 - i));
 }
 
 TEST(Flip, ComplexElementsKeepTheirParts)

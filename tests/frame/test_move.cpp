@@ -11,7 +11,8 @@ namespace {
 std::vector<unsigned char> random_bytes(tt::Rng& r, size_t n)
 {
     std::vector<unsigned char> v(n);
-    for (auto& b : v) b = static_cast<unsigned char>(r.next());
+    for (auto& b : v)
+        b = static_cast<unsigned char>(r.next());
     return v;
 }
 
@@ -33,7 +34,8 @@ template <class T, class F> void check_move_against_memmove(F fn, const std::vec
                 const T* s = reinterpret_cast<const T*>(got.data() + base + srcAt);
                 T* d = reinterpret_cast<T*>(got.data() + base + dstAt);
                 ASSERT_EQ(fn(s, d, len), StatusOk);
-                ASSERT_EQ(got, want) << "len " << len << " src " << srcAt << " dst " << dstAt << " base " << base;
+                ASSERT_EQ(got, want) << "len " << len << " src " << srcAt << " dst " << dstAt << " base "
+                                     << base;
             }
         }
     }
@@ -56,7 +58,8 @@ template <class T, class F> void check_errors(F fn)
 std::vector<int> short_lens()
 {
     std::vector<int> v;
-    for (int len = 1; len <= 70; ++len) v.push_back(len);
+    for (int len = 1; len <= 70; ++len)
+        v.push_back(len);
     return v;
 }
 
@@ -106,19 +109,23 @@ TEST(Move, OneElementUpShiftsWithoutSmearing)
 {
     for (int len : {1, 2, 15, 16, 17, 100}) {
         std::vector<Tav32f> v(size_t(len) + 1);
-        for (int i = 0; i <= len; ++i) v[size_t(i)] = float(i) + 0.5f;
+        for (int i = 0; i <= len; ++i)
+            v[size_t(i)] = float(i) + 0.5f;
         ASSERT_EQ(tavsMove_32f(v.data(), v.data() + 1, len), StatusOk);
         EXPECT_EQ(v[0], 0.5f);
-        for (int i = 1; i <= len; ++i) ASSERT_EQ(v[size_t(i)], float(i - 1) + 0.5f) << len << " " << i;
+        for (int i = 1; i <= len; ++i)
+            ASSERT_EQ(v[size_t(i)], float(i - 1) + 0.5f) << len << " " << i;
     }
 }
 
 TEST(Move, OneElementDownShiftsWithoutSmearing)
 {
     std::vector<Tav64s> v(101);
-    for (int i = 0; i <= 100; ++i) v[size_t(i)] = i * 3;
+    for (int i = 0; i <= 100; ++i)
+        v[size_t(i)] = i * 3;
     ASSERT_EQ(tavsMove_64s(v.data() + 1, v.data(), 100), StatusOk);
-    for (int i = 0; i < 100; ++i) ASSERT_EQ(v[size_t(i)], (i + 1) * 3);
+    for (int i = 0; i < 100; ++i)
+        ASSERT_EQ(v[size_t(i)], (i + 1) * 3);
     EXPECT_EQ(v[100], 300);
 }
 

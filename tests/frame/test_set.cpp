@@ -13,7 +13,8 @@ template <class T> T random_value(tt::Rng& r)
 {
     T v;
     unsigned char b[sizeof(T)];
-    for (auto& x : b) x = static_cast<unsigned char>(r.next());
+    for (auto& x : b)
+        x = static_cast<unsigned char>(r.next());
     std::memcpy(&v, b, sizeof(T));
     return v;
 }
@@ -25,8 +26,10 @@ template <class T, class F> void check_set(F fn)
 {
     tt::Rng r(21 + sizeof(T));
     std::vector<int> lens;
-    for (int len = 1; len <= 70; ++len) lens.push_back(len);
-    for (int len : {127, 128, 129, 300}) lens.push_back(len);
+    for (int len = 1; len <= 70; ++len)
+        lens.push_back(len);
+    for (int len : {127, 128, 129, 300})
+        lens.push_back(len);
     for (int len : lens)
         for (size_t off = 0; off < 16; ++off) {
             const T val = random_value<T>(r);
@@ -70,19 +73,24 @@ TEST(Set, ComplexValueRealPartFirst)
 {
     Tav16sc a[3];
     ASSERT_EQ(tavsSet_16sc(Tav16sc{-32768, 7}, a, 3), StatusOk);
-    for (auto& x : a) EXPECT_TRUE(x.re == -32768 && x.im == 7);
+    for (auto& x : a)
+        EXPECT_TRUE(x.re == -32768 && x.im == 7);
     Tav32sc b[2];
     ASSERT_EQ(tavsSet_32sc(Tav32sc{1, -2}, b, 2), StatusOk);
-    for (auto& x : b) EXPECT_TRUE(x.re == 1 && x.im == -2);
+    for (auto& x : b)
+        EXPECT_TRUE(x.re == 1 && x.im == -2);
     Tav32fc c[5];
     ASSERT_EQ(tavsSet_32fc(Tav32fc{1.5f, -0.0f}, c, 5), StatusOk);
-    for (auto& x : c) EXPECT_TRUE(x.re == 1.5f && x.im == 0.0f && std::signbit(x.im));
+    for (auto& x : c)
+        EXPECT_TRUE(x.re == 1.5f && x.im == 0.0f && std::signbit(x.im));
     Tav64fc d[4];
     ASSERT_EQ(tavsSet_64fc(Tav64fc{-2.25, 3.0}, d, 4), StatusOk);
-    for (auto& x : d) EXPECT_TRUE(x.re == -2.25 && x.im == 3.0);
+    for (auto& x : d)
+        EXPECT_TRUE(x.re == -2.25 && x.im == 3.0);
     Tav64sc e[2];
     ASSERT_EQ(tavsSet_64sc(Tav64sc{INT64_MIN, INT64_MAX}, e, 2), StatusOk);
-    for (auto& x : e) EXPECT_TRUE(x.re == INT64_MIN && x.im == INT64_MAX);
+    for (auto& x : e)
+        EXPECT_TRUE(x.re == INT64_MIN && x.im == INT64_MAX);
 }
 
 TEST(Set, FloatBitsStoredAsGiven)
@@ -93,10 +101,12 @@ TEST(Set, FloatBitsStoredAsGiven)
     std::memcpy(&f, &snan, 4);
     Tav32f v[9];
     ASSERT_EQ(tavsSet_32f(f, v, 9), StatusOk);
-    for (auto& x : v) EXPECT_TRUE(tt::same_bits(x, f));
+    for (auto& x : v)
+        EXPECT_TRUE(tt::same_bits(x, f));
     Tav64f w[3];
     ASSERT_EQ(tavsSet_64f(-0.0, w, 3), StatusOk);
-    for (auto& x : w) EXPECT_TRUE(x == 0.0 && std::signbit(x));
+    for (auto& x : w)
+        EXPECT_TRUE(x == 0.0 && std::signbit(x));
 }
 
 } // namespace

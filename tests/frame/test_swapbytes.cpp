@@ -11,7 +11,8 @@ namespace {
 std::vector<unsigned char> random_bytes(tt::Rng& r, size_t n)
 {
     std::vector<unsigned char> v(n);
-    for (auto& b : v) b = static_cast<unsigned char>(r.next());
+    for (auto& b : v)
+        b = static_cast<unsigned char>(r.next());
     return v;
 }
 
@@ -21,7 +22,8 @@ std::vector<unsigned char> swapped(const unsigned char* s, size_t len, size_t e)
 {
     std::vector<unsigned char> out(len * e);
     for (size_t i = 0; i < len; ++i)
-        for (size_t j = 0; j < e; ++j) out[i * e + j] = s[i * e + e - 1 - j];
+        for (size_t j = 0; j < e; ++j)
+            out[i * e + j] = s[i * e + e - 1 - j];
     return out;
 }
 
@@ -31,8 +33,10 @@ template <size_t E, class T, class F, class FI> void check_swap(F fn, FI fnI)
 {
     tt::Rng r(41 + E);
     std::vector<int> lens;
-    for (int len = 1; len <= 70; ++len) lens.push_back(len);
-    for (int len : {255, 256, 257}) lens.push_back(len);
+    for (int len = 1; len <= 70; ++len)
+        lens.push_back(len);
+    for (int len : {255, 256, 257})
+        lens.push_back(len);
     constexpr size_t perElem = E / sizeof(T); // T units per element
     for (int len : lens)
         for (size_t off = 0; off < 16; ++off) {
@@ -54,7 +58,8 @@ template <size_t E, class T, class F, class FI> void check_swap(F fn, FI fnI)
             tt::Guarded<T> k(size_t(len) * perElem, off);
             std::memcpy(k.data(), s, n);
             ASSERT_EQ(fn(k.data(), k.data(), len), StatusOk);
-            ASSERT_EQ(std::memcmp(k.data(), want.data(), n), 0) << "same vector len " << len << " off " << off;
+            ASSERT_EQ(std::memcmp(k.data(), want.data(), n), 0)
+                << "same vector len " << len << " off " << off;
         }
     // Errors: pointers first, then the length; nothing written.
     tt::Guarded<T> g(4 * perElem);
