@@ -63,6 +63,70 @@ Status tavsZero_64fc(Tav64fc* dst, int len);
 Status tavsZero_64sc(Tav64sc* dst, int len);
 
 /* @@MOVERS@@ (copy, move, set, flip, swap bytes, bit copies) */
+/* ---- move: dst[i] = src[i] as if through a temporary (overlap allowed) - */
+Status tavsMove_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsMove_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsMove_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsMove_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsMove_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsMove_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsMove_32sc(const Tav32sc* src, Tav32sc* dst, int len);
+Status tavsMove_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsMove_64s(const Tav64s* src, Tav64s* dst, int len);
+Status tavsMove_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsMove_64sc(const Tav64sc* src, Tav64sc* dst, int len);
+
+/* ---- set: dst[i] = val (complex values real part first) --------------- */
+Status tavsSet_8u(Tav8u val, Tav8u* dst, int len);
+Status tavsSet_16s(Tav16s val, Tav16s* dst, int len);
+Status tavsSet_16sc(Tav16sc val, Tav16sc* dst, int len);
+Status tavsSet_32f(Tav32f val, Tav32f* dst, int len);
+Status tavsSet_32s(Tav32s val, Tav32s* dst, int len);
+Status tavsSet_32fc(Tav32fc val, Tav32fc* dst, int len);
+Status tavsSet_32sc(Tav32sc val, Tav32sc* dst, int len);
+Status tavsSet_64f(Tav64f val, Tav64f* dst, int len);
+Status tavsSet_64s(Tav64s val, Tav64s* dst, int len);
+Status tavsSet_64fc(Tav64fc val, Tav64fc* dst, int len);
+Status tavsSet_64sc(Tav64sc val, Tav64sc* dst, int len);
+
+/* ---- flip: dst[i] = src[len-1-i]; complex elements move whole --------- */
+Status tavsFlip_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsFlip_8u_I(Tav8u* srcDst, int len);
+Status tavsFlip_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsFlip_16u_I(Tav16u* srcDst, int len);
+Status tavsFlip_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsFlip_32f_I(Tav32f* srcDst, int len);
+Status tavsFlip_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsFlip_32fc_I(Tav32fc* srcDst, int len);
+Status tavsFlip_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsFlip_64f_I(Tav64f* srcDst, int len);
+Status tavsFlip_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsFlip_64fc_I(Tav64fc* srcDst, int len);
+
+/* ---- swap bytes: reverses the bytes of each element; 24u vectors are
+ * packed 3-byte elements (len counts elements) and may overlap ---------- */
+Status tavsSwapBytes_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsSwapBytes_16u_I(Tav16u* srcDst, int len);
+Status tavsSwapBytes_24u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsSwapBytes_24u_I(Tav8u* srcDst, int len);
+Status tavsSwapBytes_32u(const Tav32u* src, Tav32u* dst, int len);
+Status tavsSwapBytes_32u_I(Tav32u* srcDst, int len);
+Status tavsSwapBytes_64u(const Tav64u* src, Tav64u* dst, int len);
+Status tavsSwapBytes_64u_I(Tav64u* srcDst, int len);
+
+/* ---- bit strings: len bits from bit srcBitOffset to bit dstBitOffset;
+ * only the low three bits of an offset count, other dst bits keep ------ */
+/* Bit k of a byte is the mask 0x80 >> k (most significant first). */
+Status tavsCopy_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* The same operation as tavsCopy_1u. */
+Status tavsCopyLE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Bit k of a byte is the mask 1 << k (least significant first). */
+Status tavsCopyBE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Appends the low bitCounts[i] bits of src[i] to dst, most significant
+ * first, from bit dstBitOffset; counts are clamped to 0..32 (WarnBitCount);
+ * *totalBits receives the sum of the applied counts. */
+Status tavsPackBits_32u8u(const Tav32u* src, const Tav32s* bitCounts, int len, Tav8u* dst, int dstBitOffset,
+                          Tav32s* totalBits);
 
 /* ==== Element-wise arithmetic =========================================== */
 
