@@ -1,7 +1,7 @@
 // Bit strings addressed by a byte pointer and a bit offset, of which only
 // the low three bits count (the pointer is never advanced by the offset).
-// tavsCopy_1u (and tavsCopyLE_1u, the same body) numbers the bits of a byte
-// from the most significant; tavsCopyBE_1u from the least significant.
+// tavsCopy_1u (and tavsCopyLE_1u, which forwards to it) numbers the bits of
+// a byte from the most significant; tavsCopyBE_1u from the least significant.
 // tavsPackBits_32u8u appends bit fields most significant first.
 #include <cstdint>
 
@@ -92,6 +92,13 @@ extern "C" {
 Status tavsCopy_1u_body(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len)
 {
     return copy_bits<MsbFirst>(src, srcBitOffset, dst, dstBitOffset, len);
+}
+
+// A body of its own that passes its arguments on: the two names are not a
+// sharing group, only the same operation.
+Status tavsCopyLE_1u_body(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len)
+{
+    return tavsCopy_1u_body(src, srcBitOffset, dst, dstBitOffset, len);
 }
 
 Status tavsCopyBE_1u_body(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len)
