@@ -111,10 +111,10 @@ template <class T, class Gen> RawVec make_src(size_t n, size_t off, Gen gen)
 // status. call(src, dst, len) and callI(srcDst, len) return the status,
 // which must be want(src, len).
 template <class T, class Gen, class Call, class CallI, class Ref, class Want, class Same>
-void sweep_cmp(Gen gen, Call call, CallI callI, Ref ref, Want want, Same eq)
+void sweep_cmp(Gen gen, Call call, CallI callI, Ref ref, Want want, Same eq, size_t offStep)
 {
     for (int len = 1; len <= 70; ++len)
-        for (size_t off = 0; off < 16; ++off) {
+        for (size_t off = 0; off < 16; off += offStep) {
             RawVec src = make_src<T>(size_t(len), (off * 5 + 3) % 16, gen);
             const Status st = want(src.as<T>(), len);
             tt::Guarded<T> g(size_t(len), off);
@@ -133,24 +133,29 @@ void sweep_cmp(Gen gen, Call call, CallI callI, Ref ref, Want want, Same eq)
         }
 }
 
+// Offsets: every one of 0..15 (kFull) where a function has a 16-byte path
+// whose head depends on the destination's alignment, every fifth (kLight)
+// for plain element loops and for repeats of an already covered path.
+constexpr size_t kFull = 1, kLight = 5;
+
 template <class T, class Gen, class Call, class CallI, class Ref, class Want>
-void sweep_with(Gen gen, Call call, CallI callI, Ref ref, Want want)
+void sweep_with(Gen gen, Call call, CallI callI, Ref ref, Want want, size_t offStep = kFull)
 {
-    sweep_cmp<T>(gen, call, callI, ref, want, [](const T& a, const T& b) { return same(a, b); });
+    sweep_cmp<T>(gen, call, callI, ref, want, [](const T& a, const T& b) { return same(a, b); }, offStep);
 }
 
 template <class T, class Gen, class Call, class CallI, class Ref>
-void sweep(Gen gen, Call call, CallI callI, Ref ref, Status want = StatusOk)
+void sweep(Gen gen, Call call, CallI callI, Ref ref, size_t offStep = kFull)
 {
-    sweep_with<T>(gen, call, callI, ref, [want](const T*, int) { return want; });
+    sweep_with<T>(gen, call, callI, ref, [](const T*, int) { return StatusOk; }, offStep);
 }
 
 // As sweep, bit for bit, NaN payloads included.
 template <class T, class Gen, class Call, class CallI, class Ref>
-void sweep_exact(Gen gen, Call call, CallI callI, Ref ref)
+void sweep_exact(Gen gen, Call call, CallI callI, Ref ref, size_t offStep = kFull)
 {
     sweep_cmp<T>(gen, call, callI, ref, [](const T*, int) { return StatusOk; },
-                 [](const T& a, const T& b) { return tt::same_bits(a, b); });
+                 [](const T& a, const T& b) { return tt::same_bits(a, b); }, offStep);
 }
 
 } // namespace lc

@@ -72,9 +72,11 @@ template <class T, class Call, class CallI, class Op> void constant_sweep(Call c
 {
     tt::Rng r(41 + sizeof(T));
     auto gen = [&]() { return r.element<T>(); };
-    for (T v : {T(1), T(~T(0)), T(0x5A), T(r.next() | 1), T(T(1) << (sizeof(T) * 8 - 1))}) {
+    int k = 0;
+    for (T v : {T(r.next() | 1), T(~T(0)), T(0x5A), T(1), T(T(1) << (sizeof(T) * 8 - 1))}) {
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return call(s, v, d, n); },
-                     [&](T* p, int n) { return callI(v, p, n); }, [&](T x) { return T(op(x, v)); });
+                     [&](T* p, int n) { return callI(v, p, n); }, [&](T x) { return T(op(x, v)); },
+                     k++ < 2 ? lc::kFull : lc::kLight);
         // Non-zero constants check pointers, then len.
         T s[2] = {};
         tt::Guarded<T> g(2);

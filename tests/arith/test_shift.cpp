@@ -43,8 +43,11 @@ template <class T, class Call, class CallI, class Ref> void shift_sweep(Call cal
     for (int s = 1; s < kBits<T>; ++s) shifts.push_back(s);
     for (int s : {kBits<T>, kBits<T> + 1, 100, INT_MAX}) shifts.push_back(s);
     for (int s : shifts) {
+        // Every offset for a few counts; the others take the same block code.
+        const bool full = s == 1 || s == kBits<T> / 2 + 1 || s == kBits<T> - 1;
         lc::sweep<T>(gen, [&](const T* src, T* d, int n) { return call(src, s, d, n); },
-                     [&](T* p, int n) { return callI(s, p, n); }, [&](T x) { return ref(x, s); });
+                     [&](T* p, int n) { return callI(s, p, n); }, [&](T x) { return ref(x, s); },
+                     full ? lc::kFull : lc::kLight);
     }
 }
 

@@ -357,7 +357,7 @@ TEST(Threshold, SelectorLtGtRandom)
             for (int sel : {CmpLess, CmpGreater}) {
                 auto ref = [&](T x) { return sel == CmpLess ? ref_lt(x, L) : ref_gt(x, L); };
                 lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return fn(s, d, n, L, sel); },
-                             [&](T* p, int n) { return fnI(p, n, L, sel); }, ref);
+                             [&](T* p, int n) { return fnI(p, n, L, sel); }, ref, lc::kLight);
             }
             lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return fnLT(s, d, n, L); },
                          [&](T* p, int n) { return fnLTI(p, n, L); }, [&](T x) { return ref_lt(x, L); });
@@ -376,10 +376,10 @@ TEST(Threshold, SelectorLtGtRandom)
         auto gen = gen_for<Tav32s>(r, L);
         lc::sweep<Tav32s>(gen, [&](const Tav32s* s, Tav32s* d, int n) { return tavsThreshold_LT_32s(s, d, n, L); },
                           [&](Tav32s* p, int n) { return tavsThreshold_LT_32s_I(p, n, L); },
-                          [&](Tav32s x) { return ref_lt(x, L); });
+                          [&](Tav32s x) { return ref_lt(x, L); }, lc::kLight);
         lc::sweep<Tav32s>(gen, [&](const Tav32s* s, Tav32s* d, int n) { return tavsThreshold_GT_32s(s, d, n, L); },
                           [&](Tav32s* p, int n) { return tavsThreshold_GT_32s_I(p, n, L); },
-                          [&](Tav32s x) { return ref_gt(x, L); });
+                          [&](Tav32s x) { return ref_gt(x, L); }, lc::kLight);
     }
 }
 
@@ -389,9 +389,9 @@ template <class T, class F, class FI, class G, class GI> void abs_forms(tt::Rng&
         if (L < 0) continue;
         auto gen = gen_for<T>(r, L);
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return lt(s, d, n, L); },
-                     [&](T* p, int n) { return ltI(p, n, L); }, [&](T x) { return ref_lt_abs(x, L); });
+                     [&](T* p, int n) { return ltI(p, n, L); }, [&](T x) { return ref_lt_abs(x, L); }, lc::kLight);
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return gt(s, d, n, L); },
-                     [&](T* p, int n) { return gtI(p, n, L); }, [&](T x) { return ref_gt_abs(x, L); });
+                     [&](T* p, int n) { return gtI(p, n, L); }, [&](T x) { return ref_gt_abs(x, L); }, lc::kLight);
     }
 }
 
@@ -414,9 +414,9 @@ template <class T, class F, class FI, class G, class GI> void val_forms(tt::Rng&
         auto gen = gen_for<T>(r, L);
         const T v = gen();
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return lt(s, d, n, L, v); },
-                     [&](T* p, int n) { return ltI(p, n, L, v); }, [&](T x) { return x >= L ? x : v; });
+                     [&](T* p, int n) { return ltI(p, n, L, v); }, [&](T x) { return x >= L ? x : v; }, lc::kLight);
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return gt(s, d, n, L, v); },
-                     [&](T* p, int n) { return gtI(p, n, L, v); }, [&](T x) { return L >= x ? x : v; });
+                     [&](T* p, int n) { return gtI(p, n, L, v); }, [&](T x) { return L >= x ? x : v; }, lc::kLight);
     }
 }
 
@@ -445,7 +445,7 @@ template <class T, class F, class FI> void two_sided(tt::Rng& r, F fn, FI fnI)
             return x;
         };
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return fn(s, d, n, lo, lv, hi, hv); },
-                     [&](T* p, int n) { return fnI(p, n, lo, lv, hi, hv); }, ref);
+                     [&](T* p, int n) { return fnI(p, n, lo, lv, hi, hv); }, ref, lc::kLight);
     }
 }
 
@@ -468,7 +468,7 @@ template <class T, class F, class FI> void inv_forms(tt::Rng& r, F fn, FI fnI)
             return (L == 0 && x == 0) ? T(3) : x;
         };
         lc::sweep<T>(gen, [&](const T* s, T* d, int n) { return fn(s, d, n, L); },
-                     [&](T* p, int n) { return fnI(p, n, L); }, [&](T x) { return ref_lt_inv(x, L); });
+                     [&](T* p, int n) { return fnI(p, n, L); }, [&](T x) { return ref_lt_inv(x, L); }, lc::kLight);
     }
 }
 

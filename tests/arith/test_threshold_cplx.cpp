@@ -239,23 +239,23 @@ TEST(ThresholdCplx, Selector16scRandom)
         for (int sel : {CmpLess, CmpGreater}) {
             auto ref = [&](Tav16sc x) { return ref_16sc(x, L, sel == CmpLess); };
             lc::sweep<Tav16sc>(gen, [&](const Tav16sc* s, Tav16sc* d, int n) { return tavsThreshold_16sc(s, d, n, L, sel); },
-                               [&](Tav16sc* p, int n) { return tavsThreshold_16sc_I(p, n, L, sel); }, ref);
+                               [&](Tav16sc* p, int n) { return tavsThreshold_16sc_I(p, n, L, sel); }, ref, lc::kLight);
         }
         lc::sweep<Tav16sc>(gen, [&](const Tav16sc* s, Tav16sc* d, int n) { return tavsThreshold_LT_16sc(s, d, n, L); },
                            [&](Tav16sc* p, int n) { return tavsThreshold_LT_16sc_I(p, n, L); },
-                           [&](Tav16sc x) { return ref_16sc(x, L, true); });
+                           [&](Tav16sc x) { return ref_16sc(x, L, true); }, lc::kLight);
         lc::sweep<Tav16sc>(gen, [&](const Tav16sc* s, Tav16sc* d, int n) { return tavsThreshold_GT_16sc(s, d, n, L); },
                            [&](Tav16sc* p, int n) { return tavsThreshold_GT_16sc_I(p, n, L); },
-                           [&](Tav16sc x) { return ref_16sc(x, L, false); });
+                           [&](Tav16sc x) { return ref_16sc(x, L, false); }, lc::kLight);
         const Tav16sc v{Tav16s(r.next()), Tav16s(r.next())};
         const int64_t L2 = int64_t(L) * L;
         auto n2 = [](Tav16sc x) { return int64_t(x.re) * x.re + int64_t(x.im) * x.im; };
         lc::sweep<Tav16sc>(gen, [&](const Tav16sc* s, Tav16sc* d, int n) { return tavsThreshold_LTVal_16sc(s, d, n, L, v); },
                            [&](Tav16sc* p, int n) { return tavsThreshold_LTVal_16sc_I(p, n, L, v); },
-                           [&](Tav16sc x) { return n2(x) >= L2 ? x : v; });
+                           [&](Tav16sc x) { return n2(x) >= L2 ? x : v; }, lc::kLight);
         lc::sweep<Tav16sc>(gen, [&](const Tav16sc* s, Tav16sc* d, int n) { return tavsThreshold_GTVal_16sc(s, d, n, L, v); },
                            [&](Tav16sc* p, int n) { return tavsThreshold_GTVal_16sc_I(p, n, L, v); },
-                           [&](Tav16sc x) { return L2 >= n2(x) ? x : v; });
+                           [&](Tav16sc x) { return L2 >= n2(x) ? x : v; }, lc::kLight);
     }
 }
 
@@ -313,18 +313,18 @@ void float_forms(tt::Rng& r, F fn, FI fnI, Lt lt, LtI ltI, Gt gt, GtI gtI, Lv lv
         for (int sel : {CmpLess, CmpGreater}) {
             lc::sweep<C>(gen, [&](const C* s, C* d, int n) { return fn(s, d, n, L, sel); },
                          [&](C* p, int n) { return fnI(p, n, L, sel); },
-                         [&](C x) { return sel == CmpLess ? ref_lt(x, L) : ref_gt(x, L); });
+                         [&](C x) { return sel == CmpLess ? ref_lt(x, L) : ref_gt(x, L); }, lc::kLight);
         }
         lc::sweep<C>(gen, [&](const C* s, C* d, int n) { return lt(s, d, n, L); },
-                     [&](C* p, int n) { return ltI(p, n, L); }, [&](C x) { return ref_lt(x, L); });
+                     [&](C* p, int n) { return ltI(p, n, L); }, [&](C x) { return ref_lt(x, L); }, lc::kLight);
         lc::sweep<C>(gen, [&](const C* s, C* d, int n) { return gt(s, d, n, L); },
-                     [&](C* p, int n) { return gtI(p, n, L); }, [&](C x) { return ref_gt(x, L); });
+                     [&](C* p, int n) { return gtI(p, n, L); }, [&](C x) { return ref_gt(x, L); }, lc::kLight);
         const C v = gen();
         const double L2 = double(L) * double(L);
         lc::sweep<C>(gen, [&](const C* s, C* d, int n) { return lv(s, d, n, L, v); },
-                     [&](C* p, int n) { return lvI(p, n, L, v); }, [&](C x) { return mag2(x) >= L2 ? x : v; });
+                     [&](C* p, int n) { return lvI(p, n, L, v); }, [&](C x) { return mag2(x) >= L2 ? x : v; }, lc::kLight);
         lc::sweep<C>(gen, [&](const C* s, C* d, int n) { return gv(s, d, n, L, v); },
-                     [&](C* p, int n) { return gvI(p, n, L, v); }, [&](C x) { return L2 >= mag2(x) ? x : v; });
+                     [&](C* p, int n) { return gvI(p, n, L, v); }, [&](C x) { return L2 >= mag2(x) ? x : v; }, lc::kLight);
     }
 }
 
@@ -354,7 +354,7 @@ template <class C, class F, class FI> void inv_forms(tt::Rng& r, F fn, FI fnI, P
             return StatusOk;
         };
         lc::sweep_with<C>(gen, [&](const C* s, C* d, int n) { return fn(s, d, n, L); },
-                          [&](C* p, int n) { return fnI(p, n, L); }, [&](C x) { return ref_inv(x, L); }, want);
+                          [&](C* p, int n) { return fnI(p, n, L); }, [&](C x) { return ref_inv(x, L); }, want, lc::kLight);
     }
 }
 
