@@ -24,7 +24,7 @@ std::vector<float> ramp_f(size_t n)
 void bm_threshold_lt_32f_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<float> src = ramp_f(size_t(n)), dst(size_t(n));
+    std::vector<float> src = ramp_f(size_t(n)), dst(static_cast<size_t>(n));
     for (auto _ : state) {
         tavsThreshold_LT_32f(src.data(), dst.data(), n, 1.0f);
         benchmark::DoNotOptimize(dst.data());
@@ -36,7 +36,7 @@ void bm_threshold_lt_32f_tavs(benchmark::State& state)
 void bm_threshold_lt_32f_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<float> src = ramp_f(size_t(n)), dst(size_t(n));
+    std::vector<float> src = ramp_f(size_t(n)), dst(static_cast<size_t>(n));
     for (auto _ : state) {
         const float* s = src.data();
         float* d = dst.data();
@@ -50,7 +50,7 @@ void bm_threshold_lt_32f_loop(benchmark::State& state)
 void bm_and_8u_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<Tav8u> a(size_t(n)), b(size_t(n)), d(size_t(n));
+    std::vector<Tav8u> a(static_cast<size_t>(n)), b(static_cast<size_t>(n)), d(static_cast<size_t>(n));
     for (size_t i = 0; i < a.size(); ++i) {
         a[i] = Tav8u(i * 7);
         b[i] = Tav8u(i * 13 + 1);
@@ -66,7 +66,7 @@ void bm_and_8u_tavs(benchmark::State& state)
 void bm_and_8u_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<Tav8u> a(size_t(n)), b(size_t(n)), d(size_t(n));
+    std::vector<Tav8u> a(static_cast<size_t>(n)), b(static_cast<size_t>(n)), d(static_cast<size_t>(n));
     for (size_t i = 0; i < a.size(); ++i) {
         a[i] = Tav8u(i * 7);
         b[i] = Tav8u(i * 13 + 1);
@@ -92,7 +92,7 @@ std::vector<Tav32fc> ramp_c(size_t n)
 void bm_conj_32fc_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(size_t(n));
+    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
     for (auto _ : state) {
         tavsConj_32fc(src.data(), dst.data(), n);
         benchmark::DoNotOptimize(dst.data());
@@ -104,7 +104,7 @@ void bm_conj_32fc_tavs(benchmark::State& state)
 void bm_conj_32fc_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(size_t(n));
+    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
     for (auto _ : state) {
         const Tav32fc* s = src.data();
         Tav32fc* d = dst.data();
@@ -119,7 +119,7 @@ void bm_conj_32fc_loop(benchmark::State& state)
 void bm_conj_32fc_volk(benchmark::State& state)
 {
     const int n = int(state.range(0));
-    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(size_t(n));
+    std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
     for (auto _ : state) {
         volk_32fc_conjugate_32fc(reinterpret_cast<lv_32fc_t*>(dst.data()),
                                  reinterpret_cast<const lv_32fc_t*>(src.data()), unsigned(n));

@@ -60,8 +60,16 @@ inline void drive(D* dst, size_t n, bool blocksOk, Elem elem, Block block)
         static_assert(per >= 1 && 16 % sizeof(D) == 0, "destination elements must tile 16 bytes");
         auto misaligned = [&](size_t k) { return (reinterpret_cast<uintptr_t>(dst) + k * sizeof(D)) & 15; };
         while (i < n && i < per && misaligned(i)) elem(i++);
-        if (!misaligned(i))
+        if (!misaligned(i)) {
+            // Four blocks a step keep loads and stores in flight together.
+            for (; i + 4 * per <= n; i += 4 * per) {
+                block(i);
+                block(i + per);
+                block(i + 2 * per);
+                block(i + 3 * per);
+            }
             for (; i + per <= n; i += per) block(i);
+        }
     }
     for (; i < n; ++i) elem(i);
 }
