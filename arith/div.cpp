@@ -106,6 +106,10 @@ inline Tav16s div16s_elem(int32_t d, int32_t n, float f, bool& z)
     return Tav16s(r - 32768);
 }
 
+// SSE2, eight elements a step. Limiting q to -32768..32767 first (min
+// before max, so a NaN becomes 32767) gives exactly the out-of-range results
+// of the scalar rule, since the offset rounding maps the two limits to
+// themselves. Zero divisors are patched in 16-bit lanes afterwards.
 bool div16s_kernel(const Tav16s* d, const Tav16s* n, Tav16s* dst, int len, float f)
 {
     bool z = false;
@@ -116,54 +120,55 @@ bool div16s_kernel(const Tav16s* d, const Tav16s* n, Tav16s* dst, int len, float
         const __m128 fv = _mm_set1_ps(f);
         const __m128 lo = _mm_set1_ps(-32768.0f), hi = _mm_set1_ps(32767.0f);
         const __m128 off = _mm_set1_ps(32768.0f), half = _mm_set1_ps(0.5f);
-        const __m128i one = _mm_set1_epi32(1), off_i = _mm_set1_epi32(32768), zero = _mm_setzero_si128();
-        __m128i anyZero = zero;
+        const __m128i off_i = _mm_set1_epi32(32768), zero = _mm_setzero_si128();
+        const __m128i max16 = _mm_set1_epi16(32767), min16 = _mm_set1_epi16(-32768);
         auto lanes = [&](__m128i dv, __m128i nv) {
-            const __m128 q = _mm_div_ps(_mm_mul_ps(_mm_cvtepi32_ps(nv), fv), _mm_cvtepi32_ps(dv));
+            __m128 q = _mm_div_ps(_mm_mul_ps(_mm_cvtepi32_ps(nv), fv), _mm_cvtepi32_ps(dv));
+            q = _mm_max_ps(_mm_min_ps(q, hi), lo);
             const __m128 t = _mm_add_ps(_mm_add_ps(q, off), half);
             __m128i r = _mm_cvttps_epi32(t);
-            const __m128i tie = _mm_and_si128(_mm_castps_si128(_mm_cmpeq_ps(t, _mm_cvtepi32_ps(r))),
-                                              _mm_cmpeq_epi32(_mm_and_si128(r, one), one));
-            r = _mm_sub_epi32(_mm_add_epi32(r, tie), off_i); // tie is -1 where it applies
-            // Outside the range (or NaN): -32768 below, 32767 otherwise.
-            const __m128i inside = _mm_castps_si128(_mm_and_ps(_mm_cmpge_ps(q, lo), _mm_cmple_ps(q, hi)));
-            const __m128i below = _mm_castps_si128(_mm_cmplt_ps(q, lo));
-            const __m128i outside = _mm_or_si128(_mm_and_si128(below, _mm_set1_epi32(-32768)),
-                                                 _mm_andnot_si128(below, _mm_set1_epi32(32767)));
-            r = _mm_or_si128(_mm_and_si128(inside, r), _mm_andnot_si128(inside, outside));
-            // Zero divisor: the sign of the dividend shifted to +-32768 (the pack saturates).
-            const __m128i zm = _mm_cmpeq_epi32(dv, zero);
-            const __m128i sg = _mm_sub_epi32(_mm_srli_epi32(_mm_cmpgt_epi32(nv, zero), 31),
-                                             _mm_srli_epi32(_mm_cmplt_epi32(nv, zero), 31));
-            anyZero = _mm_or_si128(anyZero, zm);
-            return _mm_or_si128(_mm_and_si128(zm, _mm_slli_epi32(sg, 15)), _mm_andnot_si128(zm, r));
+            // One down where r is odd and t integral (both masks are -1 there).
+            const __m128i odd = _mm_srai_epi32(_mm_slli_epi32(r, 31), 31);
+            const __m128i whole = _mm_castps_si128(_mm_cmpeq_ps(t, _mm_cvtepi32_ps(r)));
+            r = _mm_add_epi32(r, _mm_and_si128(odd, whole));
+            return _mm_sub_epi32(r, off_i);
         };
         for (; i + 8 <= len; i += 8) {
             const __m128i dv = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
             const __m128i nv = _mm_loadu_si128(reinterpret_cast<const __m128i*>(n + i));
             const __m128i a = lanes(_mm_srai_epi32(_mm_unpacklo_epi16(dv, dv), 16), _mm_srai_epi32(_mm_unpacklo_epi16(nv, nv), 16));
             const __m128i b = lanes(_mm_srai_epi32(_mm_unpackhi_epi16(dv, dv), 16), _mm_srai_epi32(_mm_unpackhi_epi16(nv, nv), 16));
-            _mm_store_si128(reinterpret_cast<__m128i*>(dst + i), _mm_packs_epi32(a, b));
+            __m128i res = _mm_packs_epi32(a, b);
+            const __m128i zm = _mm_cmpeq_epi16(dv, zero);
+            if (_mm_movemask_epi8(zm) != 0) {
+                const __m128i sg = _mm_or_si128(_mm_and_si128(_mm_cmpgt_epi16(nv, zero), max16),
+                                                _mm_and_si128(_mm_cmplt_epi16(nv, zero), min16));
+                res = _mm_or_si128(_mm_and_si128(zm, sg), _mm_andnot_si128(zm, res));
+                z = true;
+            }
+            _mm_store_si128(reinterpret_cast<__m128i*>(dst + i), res);
         }
-        if (_mm_movemask_epi8(anyZero) != 0) z = true;
     }
     for (; i < len; ++i) dst[i] = div16s_elem(d[i], n[i], f, z);
     return z;
 }
 
-// ---- 8u and 16u: the quotient in 32f with the tie decided on it ------------------
-// For 16-bit operands a float quotient is never close enough to a tie to
-// cross it, and an exact tie is representable, so rounding the float q to
-// nearest-even decides as the true quotient would: the result is exact.
+// ---- 8u and 16u: the quotient in floating point with the tie decided on it ----
+// The rounding of these members is ours to fix: the exact quotient, rounded
+// once to nearest-even. A quotient of 16-bit operands lies at least
+// 1 / (2 d) from a tie unless it is one (ties are representable): for 8u the
+// float quotient (below 2^8 where it matters, error under 2^-16) already
+// keeps that distance; 16u needs the double quotient (below 2^16, error under
+// 2^-36), since a float one can round onto a tie at negative scales.
 // Beyond the scale limits every quotient is 0 (above), or every non-zero
 // dividend saturates (below); a zero divisor gives the maximum or 0 there as
 // everywhere, with the warning.
-template <class T> Status unsigned_member(const T* d, const T* n, T* dst, int len, int s, int zeroFrom, int signTo)
+template <class T, class F> Status unsigned_member(const T* d, const T* n, T* dst, int len, int s, int zeroFrom, int signTo)
 {
     if (Status st = check_ptrs_len(len, d, n, dst)) return st;
     bool z = false;
-    const float maxv = float(lim_max<T>);
-    const float f = pow2_steps<float>(s);
+    const F maxv = F(lim_max<T>);
+    const F f = pow2_steps<F>(s);
     for (int i = 0; i < len; ++i) {
         if (d[i] == 0) {
             z = true;
@@ -173,7 +178,7 @@ template <class T> Status unsigned_member(const T* d, const T* n, T* dst, int le
         } else if (s <= signTo) {
             dst[i] = sign_sat<T>(n[i]);
         } else {
-            const float q = float(n[i]) * f / float(d[i]);
+            const F q = F(n[i]) * f / F(d[i]);
             dst[i] = q >= maxv ? T(lim_max<T>) : T(round_even_exact(q));
         }
     }
@@ -181,9 +186,11 @@ template <class T> Status unsigned_member(const T* d, const T* n, T* dst, int le
 }
 
 // ---- 32s and 32s16s: the quotient in 64f -----------------------------------------
-// Ties to even by comparing the fraction with one half; for 32-bit operands
-// the double quotient decides exactly. From zeroFrom up every quotient rounds
-// to 0; at signTo and below every non-zero quotient saturates by its sign.
+// Ties to even by comparing the fraction of the double quotient with one
+// half: for a 16s result that is the exact rounding; for a 32s result at a
+// negative scale the double quotient itself decides what counts as a tie.
+// From zeroFrom up every quotient rounds to 0; at signTo and below every
+// non-zero quotient saturates by its sign.
 template <class N, class D, class R> Status wide_member(const D* d, const N* n, R* dst, int len, int s, int zeroFrom, int signTo)
 {
     if (Status st = check_ptrs_len(len, d, n, dst)) return st;
@@ -241,12 +248,12 @@ Status tavsDiv_16s_Sfs_body(const Tav16s* s1, const Tav16s* s2, Tav16s* dst, int
 Status tavsDiv_16s_ISfs_body(const Tav16s* src, Tav16s* sd, int len, int sf) { return tavsDiv_16s_Sfs_body(src, sd, sd, len, sf); }
 
 // 8u: 0 above 8, saturation below -15.
-Status tavsDiv_8u_Sfs_body(const Tav8u* s1, const Tav8u* s2, Tav8u* dst, int len, int sf) { return unsigned_member(s1, s2, dst, len, sf, 9, -16); }
+Status tavsDiv_8u_Sfs_body(const Tav8u* s1, const Tav8u* s2, Tav8u* dst, int len, int sf) { return unsigned_member<Tav8u, float>(s1, s2, dst, len, sf, 9, -16); }
 Status tavsDiv_8u_ISfs_body(const Tav8u* src, Tav8u* sd, int len, int sf) { return tavsDiv_8u_Sfs_body(src, sd, sd, len, sf); }
 // 16u: 0 from 17 (65535 / 2^17 is below one half); from -32 down a non-zero
 // dividend over any divisor reaches 65536, so it saturates. Both limits are
 // exact: they give what the arithmetic gives.
-Status tavsDiv_16u_Sfs_body(const Tav16u* s1, const Tav16u* s2, Tav16u* dst, int len, int sf) { return unsigned_member(s1, s2, dst, len, sf, 17, -32); }
+Status tavsDiv_16u_Sfs_body(const Tav16u* s1, const Tav16u* s2, Tav16u* dst, int len, int sf) { return unsigned_member<Tav16u, double>(s1, s2, dst, len, sf, 17, -32); }
 Status tavsDiv_16u_ISfs_body(const Tav16u* src, Tav16u* sd, int len, int sf) { return tavsDiv_16u_Sfs_body(src, sd, sd, len, sf); }
 
 // 32s: 0 above 32, saturation by the quotient's sign below -62.

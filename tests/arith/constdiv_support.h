@@ -164,6 +164,20 @@ template <class S1, class S2, class D, class Call> void expect_two_src_errors(Ca
     EXPECT_TRUE(g.untouched());
 }
 
+// A source and an in-place vector: call(src, srcDst, len).
+template <class S, class T, class Call> void expect_src_sd_errors(Call call)
+{
+    std::vector<S> a(8);
+    std::memset(static_cast<void*>(a.data()), 0x11, a.size() * sizeof(S));
+    tt::Guarded<T> g(8);
+    EXPECT_EQ(call(nullptr, g.data(), 8), ErrNullPtr);
+    EXPECT_EQ(call(a.data(), nullptr, 8), ErrNullPtr);
+    EXPECT_EQ(call(nullptr, nullptr, 0), ErrNullPtr);
+    EXPECT_EQ(call(a.data(), g.data(), 0), ErrSize);
+    EXPECT_EQ(call(a.data(), g.data(), -5), ErrSize);
+    EXPECT_TRUE(g.untouched());
+}
+
 // Memory that faults when touched: a shortcut that must not read its source
 // is given a pointer into it.
 class NoAccessPage {
