@@ -4,6 +4,8 @@
 // The constant is turned into a reciprocal once: tavsDivC_32f multiplies
 // through tavsMulC_32f, the 16-bit integer forms multiply by the scaled
 // reciprocal in float, tavsDivC_64s_ISfs through tavsMulC_64s_ISfs.
+#include <climits>
+
 #include "internal/body.h"
 #include "internal/constant_kernels.h"
 
@@ -17,7 +19,13 @@ namespace {
 // ties to even on the float itself. A NaN product (0 times an infinite
 // reciprocal) stores 0, the exact quotient. When |r| < 1 nothing can
 // saturate and the plain loop runs.
-template <class T> inline float recip_scaled(T value, int s) { return 1.0f / (float(value) * pow2_steps<float>(-s)); }
+template <class T> inline float recip_scaled(T value, int s)
+{
+    // 2^s; the most negative s takes one step less, which reaches the same
+    // fixed point of the halving.
+    const float p = pow2_steps<float>(s == INT_MIN ? INT_MAX : -s);
+    return 1.0f / (float(value) * p);
+}
 
 template <class T> void recip_kernel(const T* src, float r, T* dst, int len)
 {

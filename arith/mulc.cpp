@@ -143,7 +143,7 @@ Status tavsMulC_64s_ISfs_body(Tav64s v, Tav64s* sd, int len, int sf)
     for (int i = 0; i < len; ++i) {
         const __int128 p = static_cast<__int128>(sd[i]) * v;
         if (sf > 0) sd[i] = sat64(rshift_rne128(p, sf));
-        else if (sf < 0) sd[i] = lshift_sat64(sat64(p), -sf);
+        else if (sf < 0) sd[i] = lshift_sat64(sat64(p), sf < -64 ? 64 : -sf);
         else sd[i] = sat64(p);
     }
     return StatusOk;
