@@ -25,7 +25,7 @@ void bm_mulc_32f_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto src = ramp32f(size_t(n), 1.0f);
-    std::vector<float> dst(size_t(n));
+    std::vector<float> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         tavsMulC_32f(src.data(), 1.5f, dst.data(), n);
         benchmark::DoNotOptimize(dst.data());
@@ -38,7 +38,7 @@ void bm_mulc_32f_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto src = ramp32f(size_t(n), 1.0f);
-    std::vector<float> dst(size_t(n));
+    std::vector<float> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         const float* s = src.data();
         float* d = dst.data();
@@ -82,7 +82,7 @@ void bm_addc_16s_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto src = ramp16s(size_t(n));
-    std::vector<Tav16s> dst(size_t(n));
+    std::vector<Tav16s> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         tavsAddC_16s_Sfs(src.data(), 1234, dst.data(), n, 1);
         benchmark::DoNotOptimize(dst.data());
@@ -96,7 +96,7 @@ void bm_addc_16s_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto src = ramp16s(size_t(n));
-    std::vector<Tav16s> dst(size_t(n));
+    std::vector<Tav16s> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         const Tav16s* s = src.data();
         Tav16s* d = dst.data();
@@ -118,7 +118,7 @@ void bm_div_32f_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto a = ramp32f(size_t(n), 1.0f), b = ramp32f(size_t(n), -200.0f);
-    std::vector<float> dst(size_t(n));
+    std::vector<float> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         tavsDiv_32f(a.data(), b.data(), dst.data(), n);
         benchmark::DoNotOptimize(dst.data());
@@ -132,7 +132,7 @@ void bm_div_32f_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     auto a = ramp32f(size_t(n), 1.0f), b = ramp32f(size_t(n), -200.0f);
-    std::vector<float> dst(size_t(n));
+    std::vector<float> dst(static_cast<size_t>(n));
     for (auto _ : state) {
         const float* s1 = a.data();
         const float* s2 = b.data();

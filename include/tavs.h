@@ -71,7 +71,7 @@ Status tavsZero_64sc(Tav64sc* dst, int len);
 /* @@ARITH22@@ (constant forms) */
 /* ---- constant forms: out of place (src, value, dst, len), in place (value, srcDst, len);
  * integer forms saturate, _Sfs forms scale by 2^-scaleFactor with ties to even ---- */
-/* AddC: dst = src + value; value 0 (at scale 0) copies src. */
+/* AddC: dst = src + value. Out of place, value 0 copies src (integer forms: at scale 0). */
 Status tavsAddC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
 Status tavsAddC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
 Status tavsAddC_16s_I(Tav16s value, Tav16s* srcDst, int len);
@@ -97,7 +97,7 @@ Status tavsAddC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
  * 1 rounds ties to even, any other value rounds half away from zero. */
 Status tavsAddC_64s_Sfs(const Tav64s* src, Tav64s value, Tav64s* dst, int len, int scaleFactor, int rndMode);
 Status tavsAddC_64u_Sfs(const Tav64u* src, Tav64u value, Tav64u* dst, int len, int scaleFactor, int rndMode);
-/* SubC: dst = src - value; value 0 (at scale 0) copies src. */
+/* SubC: dst = src - value. Out of place, value 0 copies src (integer forms: at scale 0). */
 Status tavsSubC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
 Status tavsSubC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
 Status tavsSubC_16s_I(Tav16s value, Tav16s* srcDst, int len);
@@ -140,7 +140,8 @@ Status tavsSubCRev_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len
 Status tavsSubCRev_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
 Status tavsSubCRev_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
 Status tavsSubCRev_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
-/* MulC: dst = src * value; value 1 copies, value 0 fills with +0 (floats: NaN and Inf too). */
+/* MulC: dst = src * value. Real floats: value 1 copies (in place: nothing to do), value 0
+ * stores +0 for every element, NaN and Inf included; integers: value 0 stores 0. */
 Status tavsMulC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
 Status tavsMulC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
 Status tavsMulC_16s_I(Tav16s value, Tav16s* srcDst, int len);
@@ -202,7 +203,8 @@ Status tavsDiv_Round_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst
 Status tavsDiv_Round_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int rndMode, int scaleFactor);
 Status tavsDiv_Round_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int rndMode, int scaleFactor);
 Status tavsDiv_Round_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int rndMode, int scaleFactor);
-/* DivC: dst = src / value; value 0 gives ErrDivByZero and writes nothing. */
+/* DivC: dst = src / value (32f: tavsMulC_32f by 1 / value; integer forms by the scaled
+ * reciprocal in float); value 0 gives ErrDivByZero and writes nothing. */
 Status tavsDivC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
 Status tavsDivC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
 Status tavsDivC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
