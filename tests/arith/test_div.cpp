@@ -204,21 +204,21 @@ TEST(Div, ComplexFloatMembers)
 }
 
 // ---- 16s: exhaustive at scale 0 ------------------------------------------------------------
+// v into p[0 .. count), eight bytes a store.
+void fill16(Tav16s* p, int count, Tav16s v)
+{
+    const uint64_t w = uint64_t(uint16_t(v)) * 0x0001000100010001ull;
+    int i = 0;
+    for (; i + 4 <= count; i += 4) std::memcpy(p + i, &w, 8);
+    for (; i < count; ++i) p[i] = v;
+}
+
 // Expected row for one divisor d != 0, n = -32768..32767 at index n + 32768.
 // Away from the ties the float path must give the exactly rounded quotient:
 // q = n / d is off by at most 2^-9, q + 32768 and the + 0.5 by at most 2^-9
 // each, together less than 1/128. So the row is filled with the exact
 // quotient by runs (no division per element), and only within 1/128 of a
 // tie (|2n - (2k + 1)|d|| <= |d| / 64) with the float rule itself.
-// v into p[0 .. count), eight bytes a store.
-void fill16(Tav16s* p, size_t count, Tav16s v)
-{
-    const uint64_t w = uint64_t(uint16_t(v)) * 0x0001000100010001ull;
-    size_t i = 0;
-    for (; i + 4 <= count; i += 4) std::memcpy(p + i, &w, 8);
-    for (; i < count; ++i) p[i] = v;
-}
-
 void expected_row(int d, std::vector<Tav16s>& row)
 {
     const long ad = std::labs(long(d));
@@ -231,7 +231,7 @@ void expected_row(int d, std::vector<Tav16s>& row)
         long end = (t % 2 == 0) ? ((k % 2 == 0) ? t / 2 : t / 2 - 1) : (t - 1) / 2;
         if (end > 32767) end = 32767;
         const long v = d > 0 ? k : -k; // RNE is odd-symmetric
-        fill16(row.data() + (n + 32768), size_t(end - n + 1), Tav16s(v > 32767 ? 32767 : v));
+        fill16(row.data() + (n + 32768), int(end - n + 1), Tav16s(v > 32767 ? 32767 : v));
         n = end + 1;
         ++k;
     }
@@ -265,7 +265,7 @@ TEST(Div, Short16sExhaustiveAtScaleZero)
     long mismatches = 0;
     for (int d = -32768; d <= 32767; ++d) {
         if (stride > 1 && std::abs(d) > 300 && (d % stride) != 0) continue;
-        fill16(divisors.data(), divisors.size(), Tav16s(d));
+        fill16(divisors.data(), int(divisors.size()), Tav16s(d));
         const Status st = tavsDiv_16s_Sfs(divisors.data(), dividends.data(), out.data(), 65536, 0);
         ASSERT_EQ(st, d == 0 ? WarnDivByZero : StatusOk);
         if (d == 0) {
