@@ -16,6 +16,8 @@
 #define AR_PLAIN2(fn) [](const auto* a, const auto* b, auto* d, int len, int) { return fn(a, b, d, len); }
 #define AR_SFSI(fn) [](const auto* a, auto* sd, int len, int s) { return fn(a, sd, len, s); }
 #define AR_PLAINI(fn) [](const auto* a, auto* sd, int len, int) { return fn(a, sd, len); }
+#define AR_SFS0(fn) [](auto* sd, int len, int s) { return fn(sd, len, s); }
+#define AR_PLAIN0(fn) [](auto* sd, int len, int) { return fn(sd, len); }
 
 namespace ar {
 
@@ -66,7 +68,7 @@ template <class T> std::string show(const T& v)
 // call(a, b, d, len, s) runs the member; ref(a_i, b_i, d_i before, s) is the
 // expected element. Several rounds per scale factor.
 template <class A, class B, class D, class Call, class Ref>
-void random2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, int rounds = 3)
+void random2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, int rounds = 3, bool exactBits = false)
 {
     tt::Rng r(seed);
     for (int s : scales)
@@ -79,7 +81,7 @@ void random2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, 
             ASSERT_EQ(call(a.data(), b.data(), d.data(), len, s), StatusOk) << "s=" << s;
             for (int i = 0; i < len; ++i) {
                 const D want = ref(a[size_t(i)], b[size_t(i)], d0[size_t(i)], s);
-                ASSERT_TRUE(same(d[size_t(i)], want))
+                ASSERT_TRUE(exactBits ? tt::same_bits(d[size_t(i)], want) : same(d[size_t(i)], want))
                     << "s=" << s << " i=" << i << " a=" << show(a[size_t(i)]) << " b=" << show(b[size_t(i)])
                     << " d=" << show(d0[size_t(i)]) << " got " << show(d[size_t(i)]) << " want " << show(want);
             }
@@ -88,10 +90,10 @@ void random2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, 
 
 // One-source members: call(a, d, len, s), ref(a_i, s).
 template <class A, class D, class Call, class Ref>
-void random1(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed)
+void random1(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, bool exactBits = false)
 {
     random2<A, A, D>([&](const A* a, const A*, D* d, int len, int s) { return call(a, d, len, s); },
-                     [&](A a, A, D, int s) { return ref(a, s); }, scales, seed);
+                     [&](A a, A, D, int s) { return ref(a, s); }, scales, seed, 3, exactBits);
 }
 
 // ---- lengths 1..70, destination byte offsets 0..15 -----------------------------------
@@ -100,7 +102,7 @@ void random1(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed)
 // values come from the element reference, so the element loop and the
 // vector body are both held to it. Scale factors cycle through `scales`.
 template <class A, class B, class D, class Call, class Ref>
-void sweep2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed)
+void sweep2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, bool exactBits = false)
 {
     tt::Rng r(seed);
     size_t k = 0;
@@ -126,17 +128,17 @@ void sweep2(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed)
             ASSERT_EQ(call(static_cast<const A*>(pa), static_cast<const B*>(pb), g.data(), len, s), StatusOk);
             for (size_t i = 0; i < n; ++i) {
                 const D got = get<D>(g.data(), i), want = ref(a[i], b[i], d0[i], s);
-                ASSERT_TRUE(same(got, want)) << "len=" << len << " off=" << off << " s=" << s << " i=" << i
+                ASSERT_TRUE(exactBits ? tt::same_bits(got, want) : same(got, want)) << "len=" << len << " off=" << off << " s=" << s << " i=" << i
                                              << " got " << show(got) << " want " << show(want);
             }
             ASSERT_TRUE(g.borders_intact()) << "len=" << len << " off=" << off;
         }
 }
 template <class A, class D, class Call, class Ref>
-void sweep1(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed)
+void sweep1(Call call, Ref ref, const std::vector<int>& scales, uint64_t seed, bool exactBits = false)
 {
     sweep2<A, A, D>([&](const A* a, const A*, D* d, int len, int s) { return call(a, d, len, s); },
-                    [&](A a, A, D, int s) { return ref(a, s); }, scales, seed);
+                    [&](A a, A, D, int s) { return ref(a, s); }, scales, seed, exactBits);
 }
 
 // ---- in place equals out of place -------------------------------------------------

@@ -114,7 +114,19 @@ template <class F> F rnd_float(tt::Rng& r, bool withNaN)
     case 1: return -F(0);
     case 2: return (r.next() & 1) ? L::infinity() : -L::infinity();
     case 3: return F(r.uniform(-4, 4)) * L::denorm_min() * F(r.range(1, 1000));
-    case 4: return withNaN ? L::quiet_NaN() : F(1);
+    case 4: {
+        if (!withNaN) return F(1);
+        // Any NaN: random sign and payload, quiet or signalling.
+        using U = std::conditional_t<sizeof(F) == 4, uint32_t, uint64_t>;
+        const int mant = L::digits - 1;
+        const U expo = ((U(1) << (sizeof(F) * 8 - 1 - mant)) - 1) << mant;
+        U frac = U(r.next()) & ((U(1) << mant) - 1);
+        if (frac == 0) frac = 1;
+        U bits = expo | frac | ((r.next() & 1) ? U(1) << (sizeof(F) * 8 - 1) : 0);
+        F v;
+        std::memcpy(&v, &bits, sizeof v);
+        return v;
+    }
     case 5: return F(r.range(-40000, 40000));
     case 6: return F(r.uniform(-1, 1)) * L::max();
     default: return F(std::ldexp(r.uniform(-1, 1), int(r.range(-60, 60))));
