@@ -312,16 +312,32 @@ template <class T> inline void mul16(__m128i a, __m128i b, __m128i& lo, __m128i&
     if constexpr (std::is_same_v<T, Tav16s>) simd::mul_s16(a, b, lo, hi);
     else simd::mul_u16(a, b, lo, hi);
 }
+// Sums and differences of 16s lanes come from one multiply-add of the
+// interleaved pairs (a, b) by (1, 1) or (-1, 1); 16u lanes are zero-extended.
+template <class T> inline void madd_pairs(__m128i a, __m128i b, __m128i w, __m128i& lo, __m128i& hi)
+{
+    lo = _mm_madd_epi16(_mm_unpacklo_epi16(a, b), w);
+    hi = _mm_madd_epi16(_mm_unpackhi_epi16(a, b), w);
+}
 struct IAdd {
     template <class T> static constexpr bool unsignedE = false;
     int64_t operator()(int64_t a, int64_t b) const { return a + b; }
     template <class T> void lanes(__m128i& lo, __m128i& hi, __m128i a, __m128i b) const
     {
-        __m128i al, ah, bl, bh;
-        widen16<T>(a, al, ah);
-        widen16<T>(b, bl, bh);
-        lo = _mm_add_epi32(al, bl);
-        hi = _mm_add_epi32(ah, bh);
+        if constexpr (std::is_same_v<T, Tav16s>) {
+            madd_pairs<T>(a, b, _mm_set1_epi16(1), lo, hi);
+        } else {
+            __m128i al, ah, bl, bh;
+            widen16<T>(a, al, ah);
+            widen16<T>(b, bl, bh);
+            lo = _mm_add_epi32(al, bl);
+            hi = _mm_add_epi32(ah, bh);
+        }
+    }
+    // The saturated result at scale factor 0, in the 16-bit lanes themselves.
+    template <class T> __m128i sat0(__m128i a, __m128i b) const
+    {
+        return std::is_same_v<T, Tav16s> ? _mm_adds_epi16(a, b) : _mm_adds_epu16(a, b);
     }
 };
 // The second operand minus the first.
@@ -330,11 +346,19 @@ struct ISubRev {
     int64_t operator()(int64_t a, int64_t b) const { return b - a; }
     template <class T> void lanes(__m128i& lo, __m128i& hi, __m128i a, __m128i b) const
     {
-        __m128i al, ah, bl, bh;
-        widen16<T>(a, al, ah);
-        widen16<T>(b, bl, bh);
-        lo = _mm_sub_epi32(bl, al);
-        hi = _mm_sub_epi32(bh, ah);
+        if constexpr (std::is_same_v<T, Tav16s>) {
+            madd_pairs<T>(a, b, _mm_set1_epi32(0x0001ffff), lo, hi);
+        } else {
+            __m128i al, ah, bl, bh;
+            widen16<T>(a, al, ah);
+            widen16<T>(b, bl, bh);
+            lo = _mm_sub_epi32(bl, al);
+            hi = _mm_sub_epi32(bh, ah);
+        }
+    }
+    template <class T> __m128i sat0(__m128i a, __m128i b) const
+    {
+        return std::is_same_v<T, Tav16s> ? _mm_subs_epi16(b, a) : _mm_subs_epu16(b, a);
     }
 };
 struct IMul {
@@ -368,8 +392,18 @@ inline Status int_kernel(D* d, int len, int s, ScaleLimits lim, Op op, bool vecO
     auto e = [&](intptr_t i) { return op(int64_t(ld(src, i))...); };
     constexpr bool lanes16 = (std::is_same_v<D, Tav16s> || std::is_same_v<D, Tav16u>) && (std::is_same_v<S, D> && ...);
     if constexpr (lanes16) {
+        vecOk = vecOk && apart(d, len, src...);
+        // At scale factor 0 a sum or difference saturates in its own lanes.
+        if constexpr (requires(__m128i x) { op.template sat0<D>(x, x); }) {
+            if (vecOk && s == 0) {
+                drive<sizeof(D), 8>(
+                    d, len, true, [&](intptr_t i) { st(d, i, sat<D>(e(i))); },
+                    [&](intptr_t i) { simd::store_i(d + i, op.template sat0<D>(simd::load_i(src + i)...)); });
+                return StatusOk;
+            }
+        }
         auto v = [&](intptr_t i, __m128i& lo, __m128i& hi) { op.template lanes<D>(lo, hi, simd::load_i(src + i)...); };
-        return scaled<R>(d, len, s, lim, e, vecOk && apart(d, len, src...), vec16<D, Op::template unsignedE<D>>(v));
+        return scaled<R>(d, len, s, lim, e, vecOk, vec16<D, Op::template unsignedE<D>>(v));
     } else {
         return scaled<R>(d, len, s, lim, e);
     }

@@ -84,22 +84,31 @@ inline void mul_u16(__m128i a, __m128i b, __m128i& lo, __m128i& hi)
 // The constants of a right shift by s (1 <= s <= 31) with ties to even.
 struct RneShift {
     __m128i count, mask, halfMinus1;
+    bool small; // s <= 16: e + 2^(s-1) cannot overflow a lane of the 16-bit kernels
     explicit RneShift(int s)
         : count(_mm_cvtsi32_si128(s)), mask(_mm_set1_epi32(int32_t((uint32_t(1) << s) - 1))),
-          halfMinus1(_mm_set1_epi32(int32_t((uint32_t(1) << (s - 1)) - 1)))
+          halfMinus1(_mm_set1_epi32(int32_t((uint32_t(1) << (s - 1)) - 1))), small(s <= 16)
     {
     }
 };
 
-// e * 2^-s, ties to even, without overflow: q = e >> s, plus one when the
-// dropped bits r satisfy r + 2^(s-1) - 1 + (q & 1) >= 2^s (a sum below
-// 2^(s+1), so an unsigned 32-bit lane holds it). Unsigned lanes shift
+// e * 2^-s, ties to even. For small s the rule itself,
+// (e + 2^(s-1) - 1 + ((e >> s) & 1)) >> s, whose sum stays inside the lane
+// for every exact result of the 16-bit kernels (|e| < 2^30 + 2^16 signed,
+// e < 2^32 - 2^17 + 2 unsigned). For larger s, without overflow: q = e >> s,
+// plus one when the dropped bits r satisfy r + 2^(s-1) - 1 + (q & 1) >= 2^s
+// (a sum below 2^(s+1), which an unsigned lane holds). Unsigned lanes shift
 // logically, signed lanes arithmetically.
 template <bool Unsigned> inline __m128i rne_shift(__m128i e, const RneShift& k)
 {
-    __m128i q = Unsigned ? _mm_srl_epi32(e, k.count) : _mm_sra_epi32(e, k.count);
-    __m128i odd = _mm_and_si128(q, _mm_set1_epi32(1));
-    __m128i t = _mm_add_epi32(_mm_add_epi32(_mm_and_si128(e, k.mask), k.halfMinus1), odd);
+    auto shr = [&](__m128i v) { return Unsigned ? _mm_srl_epi32(v, k.count) : _mm_sra_epi32(v, k.count); };
+    const __m128i one = _mm_set1_epi32(1);
+    if (k.small) {
+        const __m128i odd = _mm_and_si128(shr(e), one);
+        return shr(_mm_add_epi32(_mm_add_epi32(e, k.halfMinus1), odd));
+    }
+    const __m128i q = shr(e);
+    const __m128i t = _mm_add_epi32(_mm_add_epi32(_mm_and_si128(e, k.mask), k.halfMinus1), _mm_and_si128(q, one));
     return _mm_add_epi32(q, _mm_srl_epi32(t, k.count));
 }
 
