@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <xmmintrin.h>
 
 #include "arith_check.h"
 
@@ -394,6 +395,29 @@ TEST(AddSub, OddDestinationAddress)
         ASSERT_EQ(tavsAdd_32f(a.data(), b.data(), g.data(), len), StatusOk);
         EXPECT_EQ(std::memcmp(g.data(), aligned.data(), sizeof(Tav32f) * len), 0);
         EXPECT_TRUE(g.borders_intact());
+    }
+}
+
+// Float sums follow the caller's rounding direction on every path (element
+// loop and vector body alike); the library leaves the control state as is.
+TEST(AddSub, FloatFollowsTheCallersRounding)
+{
+    const unsigned saved = _MM_GET_ROUNDING_MODE();
+    for (int len : {3, 40}) {
+        const size_t n = static_cast<size_t>(len);
+        std::vector<Tav32f> a(n, 1.0f), b(n, 0x1p-30f), d(n);
+        std::vector<Tav64f> x(n, 1.0), y(n, 0x1p-60), z(n);
+        _MM_SET_ROUNDING_MODE(_MM_ROUND_UP);
+        ASSERT_EQ(tavsAdd_32f(a.data(), b.data(), d.data(), len), StatusOk);
+        ASSERT_EQ(tavsSub_64f(y.data(), x.data(), z.data(), len), StatusOk);
+        EXPECT_EQ(_MM_GET_ROUNDING_MODE(), unsigned(_MM_ROUND_UP));
+        _MM_SET_ROUNDING_MODE(saved);
+        for (auto v : d) EXPECT_EQ(v, std::nextafter(1.0f, 2.0f));
+        for (auto v : z) EXPECT_EQ(v, 1.0);
+        _MM_SET_ROUNDING_MODE(_MM_ROUND_DOWN);
+        ASSERT_EQ(tavsSub_64f(y.data(), x.data(), z.data(), len), StatusOk);
+        _MM_SET_ROUNDING_MODE(saved);
+        for (auto v : z) EXPECT_EQ(v, std::nextafter(1.0, 0.0));
     }
 }
 
