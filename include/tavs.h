@@ -87,6 +87,7 @@ Status tavsZero_64sc(Tav64sc* dst, int len);
 /* ==== Statistics ========================================================= */
 
 /* @@STATS@@ (sums, means, deviations, extrema, norms, dot products) */
+
 /* ---- sums: float forms accumulate in double (Sum_32f with HintFast: float blocks of 1024) */
 /* sum of src; hint HintFast selects the single-precision block path */
 Status tavsSum_32f(const Tav32f* src, int len, Tav32f* sum, int hint);
@@ -106,6 +107,7 @@ Status tavsSum_16sc_Sfs(const Tav16sc* src, int len, Tav16sc* sum, int scaleFact
 Status tavsSum_16sc32sc_Sfs(const Tav16sc* src, int len, Tav32sc* sum, int scaleFactor);
 /* exact 64-bit sum, scaled and saturated to 32 bits */
 Status tavsSum_32s_Sfs(const Tav32s* src, int len, Tav32s* sum, int scaleFactor);
+
 /* ---- means */
 /* mean in double, rounded to float */
 Status tavsMean_32f(const Tav32f* src, int len, Tav32f* mean);
@@ -121,6 +123,7 @@ Status tavsMean_16s_Sfs(const Tav16s* src, int len, Tav16s* mean, int scaleFacto
 Status tavsMean_16sc_Sfs(const Tav16sc* src, int len, Tav16sc* mean, int scaleFactor);
 /* integer mean, half to even, then scaled */
 Status tavsMean_32s_Sfs(const Tav32s* src, int len, Tav32s* mean, int scaleFactor);
+
 /* ---- standard deviation (divisor len-1; len >= 2) */
 /* sample standard deviation, rounded to float */
 Status tavsStdDev_32f(const Tav32f* src, int len, Tav32f* stdDev);
@@ -138,6 +141,7 @@ Status tavsMeanStdDev_64f(const Tav64f* src, int len, Tav64f* mean, Tav64f* stdD
 Status tavsMeanStdDev_16s32s_Sfs(const Tav16s* src, int len, Tav32s* mean, Tav32s* stdDev, int scaleFactor);
 /* as the 32-bit form, clamped to 16 bits */
 Status tavsMeanStdDev_16s_Sfs(const Tav16s* src, int len, Tav16s* mean, Tav16s* stdDev, int scaleFactor);
+
 /* ---- extrema: first index of the extremum; float NaN at index 0 stays, elsewhere skipped */
 /* largest element */
 Status tavsMax_16s(const Tav16s* src, int len, Tav16s* max);
@@ -215,6 +219,7 @@ Status tavsMinMaxIndx_32s(const Tav32s* src, int len, Tav32s* min, int* minIndx,
 Status tavsMinMaxIndx_32f(const Tav32f* src, int len, Tav32f* min, int* minIndx, Tav32f* max, int* maxIndx);
 /* extremes and their first indices */
 Status tavsMinMaxIndx_64f(const Tav64f* src, int len, Tav64f* min, int* minIndx, Tav64f* max, int* maxIndx);
+
 /* ---- element-wise extremes; the out-of-place forms take an unsigned length */
 /* dst = max(src1, src2) */
 Status tavsMaxEvery_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, Tav32u len);
@@ -256,6 +261,7 @@ Status tavsMinEvery_32s_I(const Tav32s* src, Tav32s* srcDst, int len);
 Status tavsMinEvery_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
 /* srcDst = src < srcDst ? src : srcDst */
 Status tavsMinEvery_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+
 /* ---- look-up in an ascending table, and counting */
 /* nearest table entry of each element (ties to the lower index) */
 Status tavsFindNearest_16u(const Tav16u* src, Tav16u* val, int* indx, int len, const Tav16u* table, int tableLen);
@@ -263,6 +269,7 @@ Status tavsFindNearest_16u(const Tav16u* src, Tav16u* val, int* indx, int len, c
 Status tavsFindNearestOne_16u(Tav16u input, Tav16u* val, int* indx, const Tav16u* table, int tableLen);
 /* count of elements strictly between the bounds */
 Status tavsCountInRange_32s(const Tav32s* src, int len, int* count, Tav32s lowerBound, Tav32s upperBound);
+
 /* ---- norms: float forms sum in double, integer forms exactly in 64 bits */
 /* largest magnitude */
 Status tavsNorm_Inf_32f(const Tav32f* src, int len, Tav32f* norm);
@@ -344,6 +351,7 @@ Status tavsNormDiff_L2_32fc64f(const Tav32fc* src1, const Tav32fc* src2, int len
 Status tavsNormDiff_L2_64fc64f(const Tav64fc* src1, const Tav64fc* src2, int len, Tav64f* norm);
 /* sum of squares of src1 - src2, scaled */
 Status tavsNormDiff_L2Sqr_16s64s_Sfs(const Tav16s* src1, const Tav16s* src2, int len, Tav64s* norm, int scaleFactor);
+
 /* ---- dot products: sum of src1[i] * src2[i], no conjugation */
 /* four float lanes */
 Status tavsDotProd_32f(const Tav32f* src1, const Tav32f* src2, int len, Tav32f* dp);

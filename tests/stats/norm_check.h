@@ -157,7 +157,7 @@ template <class F32f, class Fsfs> void check_int_pair(F32f toFloat, Fsfs scaled,
         ASSERT_EQ(toFloat(pa, pb, n, &f), StatusOk);
         float want = kind == 0 ? float(inf) : (kind == 1 ? float(l1) : float(std::sqrt(double(sq))));
         ASSERT_TRUE(tt::same_bits(f, want)) << n;
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 11 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s s = 0;
             ASSERT_EQ(scaled(pa, pb, n, &s, sf), StatusOk);
             int64_t w = kind == 0 ? scale_general(inf, sf, INT32_MIN, INT32_MAX)
@@ -182,7 +182,7 @@ template <class FL1, class FSq> void check_int64(FL1 l1f, FSq sqf, bool diff, in
             l1 += t < 0 ? -t : t;
             sq += uint64_t(t * t);
         }
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 11 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav64s x = 0, y = 0;
             ASSERT_EQ(l1f(pa, pb, n, &x, sf), StatusOk);
             ASSERT_EQ(x, scale_general(l1, sf, INT64_MIN, INT64_MAX)) << "n=" << n << " sf=" << sf;

@@ -28,12 +28,12 @@ inline std::vector<int> lengths()
 }
 
 // Calls f(len, offset) for every length and offsets 0..15; the long lengths
-// use every offset only when all is set (else four), to keep run time small.
+// use every offset only when all is set (else two), to keep run time small.
 inline void sweep(const std::function<void(int, int)>& f, bool all = false)
 {
     for (int n : lengths())
         for (int off = 0; off < 16; ++off) {
-            if (n > 2000 && !all && off != 0 && off != 1 && off != 3 && off != 6) continue;
+            if (n > 2000 && !all && off != 0 && off != 3) continue;
             f(n, off);
         }
 }
@@ -106,6 +106,19 @@ inline double sum16(const std::vector<double>& v)
     double scalar = 0.0;
     if (i < v.size()) scalar += v[i];
     return (lo + hi) + scalar;
+}
+
+// Scale factors to try for a length and offset: every one from -70 to 100
+// at offset 0 of the short lengths, the edges of every rule elsewhere (the
+// scale is applied once, after the reduction that the offsets exercise).
+inline std::vector<int> scales(int n, int off)
+{
+    std::vector<int> v;
+    if (n <= 100 && off == 0)
+        for (int sf = -70; sf <= 100; ++sf) v.push_back(sf);
+    else
+        v = {-70, -33, -32, -31, -30, -16, -15, -14, -1, 0, 1, 2, 3, 15, 16, 17, 30, 31, 32, 33, 47, 48, 49, 63, 64, 65, 100};
+    return v;
 }
 
 template <class T> std::vector<double> widen(const std::vector<T>& v) { return std::vector<double>(v.begin(), v.end()); }

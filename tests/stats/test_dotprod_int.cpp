@@ -84,7 +84,7 @@ TEST(DotProdInt, SixteenBitExactAndScaled)
         ASSERT_TRUE(tt::same_bits(fc.re, float(cc.re)) && tt::same_bits(fc.im, float(cc.im)));
         ASSERT_EQ(tavsDotProd_16s16sc32fc(pa, cb, n, &fc), StatusOk);
         ASSERT_TRUE(tt::same_bits(fc.re, float(rc.re)) && tt::same_bits(fc.im, float(rc.im)));
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 11 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s y = 0;
             Tav16s h = 0;
             Tav32sc yc{};
@@ -129,7 +129,7 @@ TEST(DotProdInt, ThirtyTwoBitInDouble)
             ri.push_back(double(pa[i]) * bi);
         }
         double sr = sref::sum8(real), scr = sref::sum8(cr), sci = sref::sum8(ci), srr = sref::sum8(rr), sri = sref::sum8(ri);
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 11 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s y = 0;
             Tav32sc yc{};
             ASSERT_EQ(tavsDotProd_32s_Sfs(pa, pb, n, &y, sf), StatusOk);

@@ -259,7 +259,7 @@ TEST(Mean, Mean16sAllScales)
             sr += c[size_t(off + i)].re;
             si += c[size_t(off + i)].im;
         }
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 9 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav16s m = 0;
             Tav16sc mc{};
             ASSERT_EQ(tavsMean_16s_Sfs(v.data() + off, n, &m, sf), StatusOk);
@@ -279,7 +279,7 @@ TEST(Mean, Mean32sAllScales)
         if (n % 3 == 0)
             for (auto& x : v) x = int32_t(r.range(-1000, 1000)); // sums that fit 32 bits
         auto s = slice(v, off, n);
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 9 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s m = 0;
             ASSERT_EQ(tavsMean_32s_Sfs(v.data() + off, n, &m, sf), StatusOk);
             ASSERT_EQ(m, ref_mean_32s(s, sf)) << "n=" << n << " sf=" << sf;
@@ -370,7 +370,7 @@ TEST(StdDev, IntegerFormsAllScales)
         double s1, s2;
         ref_moments8(s, &s1, &s2);
         double dev = ref_dev(s1, s2, s.size());
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 9 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s d32 = 0, m32 = 0, e32 = 0;
             Tav16s d16 = 0, m16 = 0, e16 = 0;
             ASSERT_EQ(tavsStdDev_16s32s_Sfs(v.data() + off, n, &d32, sf), StatusOk);

@@ -238,7 +238,7 @@ TEST(SumInt, Sum16sAllScalesAndLengths)
         auto v = sref::ints<Tav16s>(r, size_t(n + 16));
         int64_t exact = 0;
         for (int i = 0; i < n; ++i) exact += v[size_t(off + i)];
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 7 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s w = 0;
             Tav16s h = 0;
             ASSERT_EQ(tavsSum_16s32s_Sfs(v.data() + off, n, &w, sf), StatusOk);
@@ -260,7 +260,7 @@ TEST(SumInt, Sum16scPerComponent)
             re += v[size_t(off + i)].re;
             im += v[size_t(off + i)].im;
         }
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 13 : 3)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32sc w{};
             Tav16sc h{};
             ASSERT_EQ(tavsSum_16sc32sc_Sfs(v.data() + off, n, &w, sf), StatusOk);
@@ -280,7 +280,7 @@ TEST(SumInt, Sum32sAllScales)
         auto v = sref::ints<Tav32s>(r, size_t(n + 16));
         int64_t exact = 0;
         for (int i = 0; i < n; ++i) exact += v[size_t(off + i)];
-        for (int sf = -70; sf <= 100; sf += (n > 2000 ? 7 : 1)) {
+        for (int sf : sref::scales(n, off)) {
             Tav32s w = 0;
             ASSERT_EQ(tavsSum_32s_Sfs(v.data() + off, n, &w, sf), StatusOk);
             ASSERT_EQ(w, ref_scale_32s(exact, sf)) << "n=" << n << " sf=" << sf;
