@@ -165,22 +165,35 @@ void reduce(const typename S::Elem* p, int64_t n, typename S::K* mn, typename S:
     using Ops = V<K>;
     constexpr int W = Ops::W;
     const K first = S::one(p[0]);
-    typename Ops::R vmin = Ops::set1(first), vmax = Ops::set1(first);
+    // Four groups of lanes, so the chains of selects overlap; which lane
+    // takes an element does not change the extremum.
+    typename Ops::R vmin[4], vmax[4];
+    for (int g = 0; g < 4; ++g) vmin[g] = vmax[g] = Ops::set1(first);
     int64_t i = 0;
+    for (; i + 4 * W <= n; i += 4 * W)
+        for (int g = 0; g < 4; ++g) {
+            auto v = S::load(p + i + g * W);
+            if constexpr (DoMax) vmax[g] = Ops::max(v, vmax[g]);
+            if constexpr (DoMin) vmin[g] = Ops::min(v, vmin[g]);
+        }
     for (; i + W <= n; i += W) {
         auto v = S::load(p + i);
-        if constexpr (DoMax) vmax = Ops::max(v, vmax);
-        if constexpr (DoMin) vmin = Ops::min(v, vmin);
+        if constexpr (DoMax) vmax[0] = Ops::max(v, vmax[0]);
+        if constexpr (DoMin) vmin[0] = Ops::min(v, vmin[0]);
+    }
+    for (int g = 1; g < 4; ++g) {
+        if constexpr (DoMax) vmax[0] = Ops::max(vmax[g], vmax[0]);
+        if constexpr (DoMin) vmin[0] = Ops::min(vmin[g], vmin[0]);
     }
     K lanes[W];
     K lo = first, hi = first;
     if constexpr (DoMax) {
-        Ops::store(lanes, vmax);
+        Ops::store(lanes, vmax[0]);
         for (int k = 0; k < W; ++k)
             if (lanes[k] > hi) hi = lanes[k];
     }
     if constexpr (DoMin) {
-        Ops::store(lanes, vmin);
+        Ops::store(lanes, vmin[0]);
         for (int k = 0; k < W; ++k)
             if (lanes[k] < lo) lo = lanes[k];
     }

@@ -16,35 +16,50 @@ using namespace tavs::stats::ext;
 
 namespace {
 
-// One pass for 32f: each of four lanes keeps its first best value and its
-// index; among the lanes equal to the final extremum the smallest index
-// wins, and the tail continues the walk. A NaN seed is kept at index 0.
+// One pass for 32f: each of sixteen lanes (four independent groups, so
+// the compare-and-select chains overlap) keeps its first best value and
+// its index; among the lanes equal to the final extremum the smallest
+// index wins, and the tail continues the walk. A NaN seed is kept at
+// index 0.
 template <bool IsMax> int64_t index_32f(const float* p, int64_t n)
 {
     const float first = p[0];
     if (first != first) return 0;
-    __m128 best = _mm_set1_ps(first);
-    __m128i at = _mm_setzero_si128(), cur = _mm_set_epi32(3, 2, 1, 0);
-    const __m128i four = _mm_set1_epi32(4);
-    int64_t i = 0;
-    for (; i + 4 <= n; i += 4) {
-        __m128 v = _mm_loadu_ps(p + i);
-        __m128 m = IsMax ? _mm_cmpgt_ps(v, best) : _mm_cmplt_ps(v, best);
-        best = _mm_or_ps(_mm_and_ps(m, v), _mm_andnot_ps(m, best));
-        __m128i mi = _mm_castps_si128(m);
-        at = _mm_or_si128(_mm_and_si128(mi, cur), _mm_andnot_si128(mi, at));
-        cur = _mm_add_epi32(cur, four);
+    // A lane records the round (of 16 elements) in which it last improved;
+    // its index follows from the round, its group and its position.
+    __m128 best[4];
+    __m128i round[4];
+    for (int g = 0; g < 4; ++g) {
+        best[g] = _mm_set1_ps(first);
+        round[g] = _mm_setzero_si128();
     }
-    alignas(16) float b[4];
-    alignas(16) int32_t k[4];
-    _mm_store_ps(b, best);
-    _mm_store_si128(reinterpret_cast<__m128i*>(k), at);
+    __m128i r = _mm_setzero_si128();
+    const __m128i one = _mm_set1_epi32(1);
+    int64_t i = 0;
+    for (; i + 16 <= n; i += 16) {
+        for (int g = 0; g < 4; ++g) {
+            __m128 v = _mm_loadu_ps(p + i + 4 * g);
+            __m128i m = _mm_castps_si128(IsMax ? _mm_cmpgt_ps(v, best[g]) : _mm_cmplt_ps(v, best[g]));
+            best[g] = IsMax ? _mm_max_ps(v, best[g]) : _mm_min_ps(v, best[g]); // v only when strictly better
+            round[g] = _mm_xor_si128(round[g], _mm_and_si128(m, _mm_xor_si128(round[g], r)));
+        }
+        r = _mm_add_epi32(r, one);
+    }
+    alignas(16) float b[16];
+    alignas(16) int32_t k[16];
+    for (int g = 0; g < 4; ++g) {
+        _mm_store_ps(b + 4 * g, best[g]);
+        _mm_store_si128(reinterpret_cast<__m128i*>(k + 4 * g), round[g]);
+    }
     float m = b[0];
-    for (int j = 1; j < 4; ++j)
+    for (int j = 1; j < 16; ++j)
         if (IsMax ? b[j] > m : b[j] < m) m = b[j];
-    int64_t idx = INT32_MAX;
-    for (int j = 0; j < 4; ++j)
-        if (b[j] == m && k[j] < idx) idx = k[j];
+    int64_t idx = INT64_MAX; // lanes not equal to the extremum take no part
+    for (int j = 0; j < 16; ++j)
+        if (b[j] == m) {
+            int64_t at = int64_t(k[j]) * 16 + j; // j = 4 * group + position
+            if (at < idx) idx = at;
+        }
     for (; i < n; ++i)
         if (IsMax ? p[i] > m : p[i] < m) {
             m = p[i];
