@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 
 #include <cmath>
 #include <cstdint>
@@ -291,6 +292,21 @@ TEST(Mean, Mean32sAllScales)
         ASSERT_EQ(tavsMean_32s_Sfs(v.data(), 4, &m, sf), StatusOk);
         EXPECT_EQ(m, ref_mean_32s(v, sf)) << sf;
     }
+}
+
+TEST(Mean, LargeScaleReadsNoElement)
+{
+    // The source lies in a page that cannot be read: a scale factor of 16
+    // or more answers 0 without touching it.
+    void* m = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(m, MAP_FAILED);
+    Tav16s r = 5;
+    Tav16sc c{5, 5};
+    EXPECT_EQ(tavsMean_16s_Sfs(static_cast<const Tav16s*>(m), 2048, &r, 16), StatusOk);
+    EXPECT_EQ(r, 0);
+    EXPECT_EQ(tavsMean_16sc_Sfs(static_cast<const Tav16sc*>(m), 1024, &c, 40), StatusOk);
+    EXPECT_TRUE(c.re == 0 && c.im == 0);
+    munmap(m, 4096);
 }
 
 TEST(Mean, DocumentedCases)
