@@ -132,9 +132,17 @@ TEST(Every, DocumentedLengthTests)
 {
     float a[1] = {1}, d[1] = {0};
     EXPECT_EQ(tavsMinEvery_32f(a, a, d, 0u), ErrSize);
+    EXPECT_EQ(d[0], 0.0f);
+}
+
+TEST(Every, LengthWithTopBitSetIsNotRefused)
+{
     // A length with its top bit set passes the length test: 2^31 bytes are
     // processed in place (identical pointers are allowed). The 2 GiB range
     // maps one small block of memory over and over, so it costs little.
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "2^31 checked accesses take too long under the sanitizers; the plain build runs this";
+#endif
     const size_t n = size_t(1) << 31, piece = size_t(1) << 21;
     int fd = memfd_create("every", 0);
     if (fd < 0 || ftruncate(fd, off_t(piece)) != 0) GTEST_SKIP() << "no memfd";
