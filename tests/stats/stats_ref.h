@@ -116,6 +116,8 @@ inline std::vector<int> scales(int n, int off)
     std::vector<int> v;
     if (n <= 100 && off == 0)
         for (int sf = -70; sf <= 100; ++sf) v.push_back(sf);
+    else if (n > 2000)
+        v = {-70, -31, -15, -1, 0, 1, 2, 15, 16, 31, 48, 49, 100};
     else
         v = {-70, -33, -32, -31, -30, -16, -15, -14, -1, 0, 1, 2, 3, 15, 16, 17, 30, 31, 32, 33, 47, 48, 49, 63, 64, 65, 100};
     return v;
