@@ -159,6 +159,8 @@ constexpr double kTwo63 = 9223372036854775808.0;
 int64_t f64_to_64s(double x, int rndMode, int sf)
 {
     if (is_nan64(x)) return 0;
+    if (x > 1.7976931348623157e308) return INT64_MAX; // infinities saturate at once
+    if (x < -1.7976931348623157e308) return INT64_MIN;
     int64_t rest = -int64_t(sf);
     while (rest != 0 && x != 0.0) {
         const int step = int(rest > 1000 ? 1000 : (rest < -1000 ? -1000 : rest));
