@@ -143,6 +143,37 @@ template <class S, class D, class Call, class Ref> void bulk(const std::vector<S
     }
 }
 
+using i128 = __int128;
+
+inline i128 clamp128(i128 v, int64_t lo, int64_t hi) { return v < lo ? lo : (v > hi ? hi : v); }
+
+// e * 2^-sf with the shift counts clamped at leftMax and rightMax, rounded
+// by mode (1 ties to even, 0 toward zero, other half away), in 128 bits.
+inline int64_t ref_scale(int64_t e, int64_t sf, int leftMax, int rightMax, int mode, int64_t lo, int64_t hi)
+{
+    if (sf < 0) {
+        const int n = int(-sf > leftMax ? leftMax : -sf);
+        return int64_t(clamp128(i128(e) * (i128(1) << n), lo, hi));
+    }
+    if (sf == 0) return int64_t(clamp128(e, lo, hi));
+    const int s = int(sf > rightMax ? rightMax : sf);
+    const i128 div = i128(1) << s, half = div / 2;
+    i128 q = i128(e) / div, rem = i128(e) % div; // toward zero
+    if (rem < 0) {
+        q -= 1;
+        rem += div;
+    } // now floor, 0 <= rem < div
+    i128 r;
+    if (mode == 1) r = q + ((rem > half || (rem == half && (q & 1) != 0)) ? 1 : 0);
+    else if (mode == 0) r = (e < 0 && rem != 0) ? q + 1 : q;
+    else {
+        const i128 mag = e < 0 ? -i128(e) : i128(e);
+        const i128 m = (mag + half) / div;
+        r = e < 0 ? -m : m;
+    }
+    return int64_t(clamp128(r, lo, hi));
+}
+
 // Random floats of every magnitude that matters to a conversion: small
 // integers and halves (ties), values near the limits, and log-uniform values.
 inline std::vector<float> float_pool(tt::Rng& r, size_t n, float range)
