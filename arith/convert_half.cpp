@@ -47,9 +47,9 @@ inline __m128i v_half_to_float(__m128i h)
     const __m128i e = _mm_and_si128(h, _mm_set1_epi32(0x7C00));
     const __m128i rebias = _mm_set1_epi32(112 << 23);
     __m128i normal = _mm_add_epi32(_mm_slli_epi32(mag, 13), rebias);
-    // Exponent 31 needs another 128 on the float exponent to reach 255.
+    // Exponent 31 needs the rebias once more to reach 255.
     const __m128i special = _mm_cmpeq_epi32(e, _mm_set1_epi32(0x7C00));
-    normal = _mm_add_epi32(normal, _mm_and_si128(special, _mm_set1_epi32(128 << 23)));
+    normal = _mm_add_epi32(normal, _mm_and_si128(special, rebias));
     // Subnormal and zero: mag * 2^-24 is exact in 32f.
     const __m128i tiny = _mm_cmpeq_epi32(e, _mm_setzero_si128());
     const __m128i sub = _mm_castps_si128(_mm_mul_ps(_mm_cvtepi32_ps(mag), _mm_set1_ps(0x1p-24f)));
