@@ -129,6 +129,30 @@ void sweep(const std::vector<S>& pool, Call call, Ref ref, int maxLen = 70)
     }
 }
 
+// Members whose source and destination elements have one size work with one
+// vector as both: the result equals the out-of-place one for every length
+// and byte offset.
+template <class S, class D, class Call> void in_place(const std::vector<S>& pool, Call call, int maxLen = 70)
+{
+    static_assert(sizeof(S) == sizeof(D));
+    ASSERT_GE(pool.size(), size_t(maxLen));
+    for (int len = 1; len <= maxLen; ++len) {
+        for (size_t off = 0; off < 16; off += 3) {
+            tt::Guarded<S> s(size_t(len), off);
+            tt::Guarded<D> d(size_t(len), off);
+            tt::Guarded<S> io(size_t(len), off);
+            for (int i = 0; i < len; ++i) {
+                put<S>(s.data(), size_t(i), pool[size_t(i)]);
+                put<S>(io.data(), size_t(i), pool[size_t(i)]);
+            }
+            ASSERT_EQ(call(s.data(), d.data(), len), StatusOk);
+            ASSERT_EQ(call(io.data(), io.data(), len), StatusOk);
+            ASSERT_EQ(std::memcmp(d.data(), io.data(), size_t(len) * sizeof(D)), 0) << "len " << len << " offset " << off;
+            ASSERT_TRUE(io.borders_intact());
+        }
+    }
+}
+
 // Converts all of src in one call (the vector path, with the result written
 // at an aligned destination) and compares with ref element by element.
 template <class S, class D, class Call, class Ref> void bulk(const std::vector<S>& src, Call call, Ref ref)

@@ -309,6 +309,22 @@ TEST(ConvertHalf, Int16To16Exhaustive)
     EXPECT_EQ(d[1].bits, 0x6801); // 2050
 }
 
+TEST(ConvertHalf, InPlace)
+{
+    tt::Rng r(5);
+    const auto p16 = tt::random_vector<Tav16s>(r, 70);
+    std::vector<Tav16f> ph(70);
+    for (auto& h : ph) h = half(uint16_t(r.next()));
+    for (int mode : {0, 1}) {
+        ct::in_place<Tav16s, Tav16f>(p16, [mode](const void* s, void* d, int len) {
+            return tavsConvert_16s16f(static_cast<const Tav16s*>(s), static_cast<Tav16f*>(d), len, mode);
+        });
+        ct::in_place<Tav16f, Tav16s>(ph, [mode](const void* s, void* d, int len) {
+            return tavsConvert_16f16s_Sfs(static_cast<const Tav16f*>(s), static_cast<Tav16s*>(d), len, mode, -3);
+        });
+    }
+}
+
 // ---- 16f to 16s ----------------------------------------------------------------------
 
 // The exact value times 2^-sf, rounded (ties to even) or truncated, saturated;

@@ -342,6 +342,20 @@ TEST(ConvertRound, Float64ToInt64TieIsExplicit)
     EXPECT_EQ(d[2], 6);
 }
 
+TEST(ConvertRound, InPlace)
+{
+    tt::Rng r(2);
+    const auto pf = ct::float_pool(r, 70, 2147483648.0f);
+    for (int mode : {0, 1, 2}) {
+        ct::in_place<Tav32f, Tav32s>(pf, [mode](const void* s, void* d, int len) {
+            return tavsConvert_32f32s_Sfs(static_cast<const Tav32f*>(s), static_cast<Tav32s*>(d), len, mode, -2);
+        });
+        ct::in_place<Tav64f, Tav64s>(double_pool(r, 70, 1e18), [mode](const void* s, void* d, int len) {
+            return tavsConvert_64f64s_Sfs(static_cast<const Tav64f*>(s), static_cast<Tav64s*>(d), len, mode, 3);
+        });
+    }
+}
+
 TEST(ConvertRoundDeathTest, NegativeLengthIsAHugeCount)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");

@@ -158,6 +158,21 @@ TEST(ConvertWiden, ScaledToFloat)
     check_scaled<Tav32s, Tav64f>(tavsConvert_32s64f_Sfs);
 }
 
+TEST(ConvertWiden, InPlace)
+{
+    tt::Rng r(1);
+    const auto p32 = tt::random_vector<Tav32s>(r, 70);
+    ct::in_place<Tav32s, Tav32f>(p32, [](const void* s, void* d, int len) {
+        return tavsConvert_32s32f(static_cast<const Tav32s*>(s), static_cast<Tav32f*>(d), len);
+    });
+    ct::in_place<Tav32s, Tav32f>(p32, [](const void* s, void* d, int len) {
+        return tavsConvert_32s32f_Sfs(static_cast<const Tav32s*>(s), static_cast<Tav32f*>(d), len, 7);
+    });
+    ct::in_place<Tav64s, Tav64f>(tt::random_vector<Tav64s>(r, 70), [](const void* s, void* d, int len) {
+        return tavsConvert_64s64f(static_cast<const Tav64s*>(s), static_cast<Tav64f*>(d), len);
+    });
+}
+
 TEST(ConvertWiden, ScaledKnownValues)
 {
     const Tav16s s[3] = {3, -3, 0};
