@@ -135,10 +135,34 @@ template <bool Nearest> inline __m128i v_float_to_half(__m128i x)
     return sel(isSpecial, special, r);
 }
 
-// Eight 32f bit patterns to eight halves stored at an aligned d.
+// The common case alone: every lane a normal half that cannot round up to
+// the overflow threshold (field 113 and above, below 0x477FF000 for nearest).
+template <bool Nearest> inline __m128i v_plain_half(__m128i x)
+{
+    const __m128i a = _mm_and_si128(x, c32(0x7FFFFFFFu));
+    const __m128i sign = _mm_and_si128(_mm_srli_epi32(x, 16), c32(0x8000u));
+    __m128i sum = _mm_add_epi32(a, c32(0x8000000u));
+    if constexpr (Nearest) sum = _mm_add_epi32(_mm_add_epi32(sum, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
+    return _mm_or_si128(_mm_and_si128(_mm_srli_epi32(sum, 13), c32(0x7FFFu)), sign);
+}
+
+template <bool Nearest> inline __m128i v_outside_plain(__m128i x)
+{
+    const __m128i a = _mm_and_si128(x, c32(0x7FFFFFFFu));
+    const uint32_t top = Nearest ? 0x477FEFFFu : 0x477FFFFFu;
+    return _mm_or_si128(_mm_cmplt_epi32(a, c32(0x38800000u)), _mm_cmpgt_epi32(a, c32(top)));
+}
+
+// Eight 32f bit patterns to eight halves stored at an aligned d; the full
+// rule runs only when some lane needs it.
 template <bool Nearest> inline void v_store_halves(Tav16f* d, __m128i lo, __m128i hi)
 {
-    _mm_store_si128(reinterpret_cast<__m128i*>(d), pack_low16(v_float_to_half<Nearest>(lo), v_float_to_half<Nearest>(hi)));
+    __m128i r;
+    if (_mm_movemask_epi8(_mm_or_si128(v_outside_plain<Nearest>(lo), v_outside_plain<Nearest>(hi))) == 0)
+        r = pack_low16(v_plain_half<Nearest>(lo), v_plain_half<Nearest>(hi));
+    else
+        r = pack_low16(v_float_to_half<Nearest>(lo), v_float_to_half<Nearest>(hi));
+    _mm_store_si128(reinterpret_cast<__m128i*>(d), r);
 }
 
 template <bool Nearest> void f32_to_16f(const Tav32f* src, Tav16f* dst, size_t n)

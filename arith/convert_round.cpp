@@ -40,39 +40,53 @@ template <class D> inline void store_narrow(D* d, const __m128i* q)
     }
 }
 
-template <class D, bool Scale>
-void f32_small_kernel(const Tav32f* src, D* dst, size_t n, float f, int rndMode)
+template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src, D* dst, size_t n, float f)
 {
-    constexpr size_t W = 16 / sizeof(D);
+    // Sixteen elements a step: one 16-byte store of 8-bit results, two of
+    // 16-bit ones.
+    constexpr size_t W = 16, perStore = 16 / sizeof(D);
     const float lo = float(Limits<D>::min), hi = float(Limits<D>::max);
     const __m128 vlo = _mm_set1_ps(lo), vhi = _mm_set1_ps(hi), vf = _mm_set1_ps(f);
+    // Truncation and the processor's conversion need only the upper limit:
+    // anything below the lower one converts to a 32-bit value at or below it
+    // (or to the integer indefinite 0x80000000) and the saturating packs take
+    // it to the lower limit, as limiting first would. Half away doubles the
+    // value, and the biased 16u pack cannot take 0x80000000, so they limit both
+    // sides.
+    constexpr bool hiOnly = Mode != RoundHalfAway && !std::is_same_v<D, Tav16u>;
     drive<W>(
         dst, n, 8,
         [&](size_t i) {
             float x = ld<Tav32f>(src, i);
             if constexpr (Scale) x *= f;
-            st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), rndMode)));
+            if constexpr (hiOnly) st<D>(dst, i, sat<D>(cvt_mode(x < hi ? x : hi, Mode)));
+            else st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), Mode)));
         },
         [&](size_t i) {
             __m128i q[W / 4];
             for (size_t k = 0; k < W / 4; ++k) {
                 __m128 x = _mm_loadu_ps(src + i + 4 * k);
                 if constexpr (Scale) x = _mm_mul_ps(x, vf);
-                q[k] = vcvt_mode(_mm_min_ps(_mm_max_ps(x, vlo), vhi), rndMode);
+                if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
+                q[k] = vcvt_mode(_mm_min_ps(x, vhi), Mode);
             }
-            store_narrow(dst + i, q);
+            for (size_t k = 0; k < W / perStore; ++k) store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
         });
+}
+
+template <class D, bool Scale> void f32_small_modes(const Tav32f* src, D* dst, size_t n, float f, int rndMode)
+{
+    if (rndMode == RoundTowardZero) f32_small_kernel<D, Scale, RoundTowardZero>(src, dst, n, f);
+    else if (rndMode == RoundHalfEven) f32_small_kernel<D, Scale, RoundHalfEven>(src, dst, n, f);
+    else f32_small_kernel<D, Scale, RoundHalfAway>(src, dst, n, f);
 }
 
 template <class D> Status f32_to_small(const Tav32f* src, D* dst, int len, int rndMode, int scaleFactor)
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     // Any value other than 0 and 1 takes the half-away path.
-    if (rndMode != RoundTowardZero && rndMode != RoundHalfEven) rndMode = RoundHalfAway;
-    if (scaleFactor == 0)
-        f32_small_kernel<D, false>(src, dst, size_t(len), 1.0f, rndMode);
-    else
-        f32_small_kernel<D, true>(src, dst, size_t(len), pow2_neg<float>(scaleFactor), rndMode);
+    if (scaleFactor == 0) f32_small_modes<D, false>(src, dst, size_t(len), 1.0f, rndMode);
+    else f32_small_modes<D, true>(src, dst, size_t(len), pow2_neg<float>(scaleFactor), rndMode);
     return StatusOk;
 }
 

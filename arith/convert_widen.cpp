@@ -134,11 +134,13 @@ Status tavsConvert_8u32f_body(const Tav8u* src, Tav32f* dst, int len) { return b
 
 Status tavsConvert_16s32f_body(const Tav16s* src, Tav32f* dst, int len)
 {
-    return widen<8>(src, dst, len, [](Tav16s v) { return Tav32f(v); }, [](const Tav16s* s, Tav32f* d) {
-        __m128i a, b;
-        widen_16<true>(load16(s), a, b);
-        put_f32(d, a);
-        put_f32(d + 4, b);
+    return widen<16>(src, dst, len, [](Tav16s v) { return Tav32f(v); }, [](const Tav16s* s, Tav32f* d) {
+        for (int k = 0; k < 2; ++k) {
+            __m128i a, b;
+            widen_16<true>(load16(s + 8 * k), a, b);
+            put_f32(d + 8 * k, a);
+            put_f32(d + 8 * k + 4, b);
+        }
     });
 }
 

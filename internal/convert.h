@@ -168,8 +168,9 @@ inline int32_t cvt_mode(float x, int rndMode)
 // Sign-extends eight 16-bit lanes into two vectors of four 32-bit lanes.
 inline void widen_16s(__m128i v, __m128i& lo, __m128i& hi)
 {
-    lo = _mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16);
-    hi = _mm_srai_epi32(_mm_unpackhi_epi16(v, v), 16);
+    const __m128i sign = _mm_cmplt_epi16(v, _mm_setzero_si128());
+    lo = _mm_unpacklo_epi16(v, sign);
+    hi = _mm_unpackhi_epi16(v, sign);
 }
 
 // Packs the low 16 bits of each 32-bit lane of a and b (bit patterns kept).
