@@ -73,7 +73,7 @@ Status tavsZero_64sc(Tav64sc* dst, int len);
 /* @@ARITH23@@ (division) */
 
 /* @@ARITH24@@ (conversion) */
-/* ---- widening: one value-preserving step per element ------------------ */
+/* ---- widening -------------------------------------------------------- */
 /* dst[i] = src[i] sign-extended. */
 Status tavsConvert_8s16s(const Tav8s* src, Tav16s* dst, int len);
 /* dst[i] = src[i] as 32f (exact). */
@@ -92,101 +92,86 @@ Status tavsConvert_32f64f(const Tav32f* src, Tav64f* dst, int len);
 Status tavsConvert_32s32f(const Tav32s* src, Tav32f* dst, int len);
 /* dst[i] = src[i] as 64f (exact). */
 Status tavsConvert_32s64f(const Tav32s* src, Tav64f* dst, int len);
-/* dst[i] = src[i] as 64f, rounded by the current rounding direction; len is
- * read as unsigned (only 0 is a size error). */
+/* dst[i] = src[i] as 64f by the current rounding direction; len is unsigned (0 is ErrSize). */
 Status tavsConvert_64s64f(const Tav64s* src, Tav64f* dst, int len);
 
-/* ---- 24-bit: three little-endian bytes per element --------------------- */
-/* dst[i] = the signed 24-bit integer at src + 3i. */
+/* ---- 24-bit: three little-endian bytes per element ------------------- */
+/* dst[i] = the signed 24-bit little-endian integer at src + 3i. */
 Status tavsConvert_24s32s(const Tav8u* src, Tav32s* dst, int len);
-/* dst[i] = the unsigned 24-bit integer at src + 3i. */
+/* dst[i] = the unsigned 24-bit little-endian integer at src + 3i. */
 Status tavsConvert_24u32u(const Tav8u* src, Tav32u* dst, int len);
-/* dst[i] = the signed 24-bit integer at src + 3i as 32f (the integer value). */
+/* dst[i] = the signed 24-bit integer at src + 3i as 32f (its integer value). */
 Status tavsConvert_24s32f(const Tav8u* src, Tav32f* dst, int len);
-/* dst[i] = the unsigned 24-bit integer at src + 3i as 32f (the integer value). */
+/* dst[i] = the unsigned 24-bit integer at src + 3i as 32f (its integer value). */
 Status tavsConvert_24u32f(const Tav8u* src, Tav32f* dst, int len);
-/* dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated, as 24-bit signed;
- * the shift count is clamped at 31 both ways. */
+/* 24-bit dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated; shift counts clamped at 31. */
 Status tavsConvert_32s24s_Sfs(const Tav32s* src, Tav8u* dst, int len, int scaleFactor);
-/* dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated, as 24-bit
- * unsigned; the shift count is clamped at 31 both ways. */
+/* 24-bit dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated; shift counts clamped at 31. */
 Status tavsConvert_32u24u_Sfs(const Tav32u* src, Tav8u* dst, int len, int scaleFactor);
-/* dst[i] = src[i] * 2^-scaleFactor (32f factor from the exponent field,
- * scaleFactor clamped to -126..127), nearest with ties to even, saturated to
- * 24-bit signed. */
+/* 24-bit dst[i] = src[i] * 2^-scaleFactor (scale clamped to -126..127), nearest even, saturated. */
 Status tavsConvert_32f24s_Sfs(const Tav32f* src, Tav8u* dst, int len, int scaleFactor);
-/* As tavsConvert_32f24s_Sfs, saturated to 24-bit unsigned. */
+/* 24-bit dst[i] = src[i] * 2^-scaleFactor (scale clamped to -126..127), nearest even, saturated. */
 Status tavsConvert_32f24u_Sfs(const Tav32f* src, Tav8u* dst, int len, int scaleFactor);
 
-/* ---- narrowing ---------------------------------------------------------- */
+/* ---- narrowing -------------------------------------------------------- */
 /* dst[i] = src[i] saturated to 16s. */
 Status tavsConvert_32s16s(const Tav32s* src, Tav16s* dst, int len);
-/* dst[i] = src[i] limited to +-3.4028234663852886e38, then narrowed. */
+/* dst[i] = src[i] limited to +-3.4028234663852886e38, then narrowed to 32f. */
 Status tavsConvert_64f32f(const Tav64f* src, Tav32f* dst, int len);
-/* dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated; the shift count
- * is clamped at 15 to the left and 31 to the right. */
+/* dst[i] = src[i] * 2^-scaleFactor, ties to even, saturated; counts clamped at 15 left, 31 right. */
 Status tavsConvert_32s16s_Sfs(const Tav32s* src, Tav16s* dst, int len, int scaleFactor);
-/* dst[i] = src[i] * 2^-scaleFactor rounded by rndMode (0 toward zero, 1 ties
- * to even, other half away), saturated; zeros from scaleFactor 18; len is read
- * as unsigned (only 0 is a size error). */
+/* dst[i] = src[i] * 2^-scaleFactor rounded by rndMode, saturated; len is unsigned (0 is ErrSize). */
 Status tavsConvert_16s8s_Sfs(const Tav16s* src, Tav8s* dst, int len, int rndMode, int scaleFactor);
-/* dst[i] = src[i] * 2^-scaleFactor rounded by rndMode (0 toward zero, 1 ties
- * to even, other half away), saturated; the shift count is clamped at 31 to
- * the left and 63 to the right. */
+/* dst[i] = src[i] * 2^-scaleFactor rounded by rndMode, saturated; counts clamped at 31 left, 63 right. */
 Status tavsConvert_64s32s_Sfs(const Tav64s* src, Tav32s* dst, int len, int rndMode, int scaleFactor);
 
-/* ---- integer to float with a scale: dst[i] = src[i] * 2^-scaleFactor ---- */
-/* The factor is 1.0 halved or doubled |scaleFactor| times in 32f. */
+/* ---- integer to float with a scale ----------------------------------- */
+/* dst[i] = src[i] * 2^-scaleFactor, the factor built by halving or doubling 1.0f. */
 Status tavsConvert_16s32f_Sfs(const Tav16s* src, Tav32f* dst, int len, int scaleFactor);
-/* The factor is 1.0 halved or doubled |scaleFactor| times in 64f. */
+/* dst[i] = src[i] * 2^-scaleFactor, the factor built by halving or doubling 1.0. */
 Status tavsConvert_16s64f_Sfs(const Tav16s* src, Tav64f* dst, int len, int scaleFactor);
-/* The factor is 1.0 halved or doubled |scaleFactor| times in 32f. */
+/* dst[i] = src[i] * 2^-scaleFactor, the factor built by halving or doubling 1.0f. */
 Status tavsConvert_32s32f_Sfs(const Tav32s* src, Tav32f* dst, int len, int scaleFactor);
-/* The factor is 1.0 halved or doubled |scaleFactor| times in 64f. */
+/* dst[i] = src[i] * 2^-scaleFactor, the factor built by halving or doubling 1.0. */
 Status tavsConvert_32s64f_Sfs(const Tav32s* src, Tav64f* dst, int len, int scaleFactor);
 
-/* ---- float to integer: scale by 2^-scaleFactor, limit, round by rndMode
- * (0 toward zero, 1 the processor's conversion, any other half away) ------- */
-/* Limits -128.0 .. 127.0. */
+/* ---- float to integer; rndMode 0 truncates, 1 the processor's
+ * conversion, any other value half away ---------------------------------- */
+/* dst[i] = src[i] * 2^-scaleFactor limited to -128..127, rounded by rndMode. */
 Status tavsConvert_32f8s_Sfs(const Tav32f* src, Tav8s* dst, int len, int rndMode, int scaleFactor);
-/* Limits 0.0 .. 255.0. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to 0..255, rounded by rndMode. */
 Status tavsConvert_32f8u_Sfs(const Tav32f* src, Tav8u* dst, int len, int rndMode, int scaleFactor);
-/* Limits -32768.0 .. 32767.0. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to -32768..32767, rounded by rndMode. */
 Status tavsConvert_32f16s_Sfs(const Tav32f* src, Tav16s* dst, int len, int rndMode, int scaleFactor);
-/* Limits 0.0 .. 65535.0. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to 0..65535, rounded by rndMode. */
 Status tavsConvert_32f16u_Sfs(const Tav32f* src, Tav16u* dst, int len, int rndMode, int scaleFactor);
-/* Product in 64f, limits -2147483648.0 .. 2147483647.0; the ties-to-even path
- * stays in 32f and stores 0x7FFFFFFF above 2147483520.0. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to the 32s range, rounded by rndMode. */
 Status tavsConvert_32f32s_Sfs(const Tav32f* src, Tav32s* dst, int len, int rndMode, int scaleFactor);
-/* Limits -32768.0 .. 32767.0; half away adds +-0.5 and truncates. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to -32768..32767, rounded by rndMode. */
 Status tavsConvert_64f16s_Sfs(const Tav64f* src, Tav16s* dst, int len, int rndMode, int scaleFactor);
-/* Limits -2147483648.0 .. 2147483647.0; half away adds +-0.5 and truncates. */
+/* dst[i] = src[i] * 2^-scaleFactor limited to the 32s range, rounded by rndMode. */
 Status tavsConvert_64f32s_Sfs(const Tav64f* src, Tav32s* dst, int len, int rndMode, int scaleFactor);
-/* Exact scaled value rounded by rndMode with the tie tested explicitly,
- * saturated to 64s; NaN stores 0; len is read as unsigned (only 0 is a size
- * error). */
+/* dst[i] = src[i] * 2^-scaleFactor rounded by rndMode, saturated; len is unsigned (0 is ErrSize). */
 Status tavsConvert_64f64s_Sfs(const Tav64f* src, Tav64s* dst, int len, int rndMode, int scaleFactor);
 
-/* ---- half precision (IEEE binary16) ------------------------------------- */
-/* dst[i] = src[i] exactly; NaN payloads are kept. */
+/* ---- half precision (IEEE binary16) ---------------------------------- */
+/* dst[i] = the half src[i] as 32f (exact, NaN payloads kept). */
 Status tavsConvert_16f32f(const Tav16f* src, Tav32f* dst, int len);
-/* rndMode 1 nearest, 2 ErrRoundMode, any other truncation (overflow then
- * stores the largest finite value). */
+/* dst[i] = src[i] as a half: rndMode 1 nearest, 2 ErrRoundMode, others truncate. */
 Status tavsConvert_32f16f(const Tav32f* src, Tav16f* dst, int len, int rndMode);
-/* Exact 32f, then narrowed as tavsConvert_32f16f. */
+/* dst[i] = src[i] as a half: rndMode 1 nearest, 2 ErrRoundMode, others truncate. */
 Status tavsConvert_16s16f(const Tav16s* src, Tav16f* dst, int len, int rndMode);
-/* dst[i] = src[i] * 2^-scaleFactor, rndMode 1 ties to even, 2 ErrRoundMode,
- * any other truncation; saturated, NaN stores 0. */
+/* dst[i] = half src[i] * 2^-scaleFactor, saturated: rndMode 1 nearest, 2 ErrRoundMode, others truncate. */
 Status tavsConvert_16f16s_Sfs(const Tav16f* src, Tav16s* dst, int len, int rndMode, int scaleFactor);
 
-/* ---- channels: -1..1 floats and interleaved full-scale integers ---------- */
-/* dst[i * nChannels + c] = srcChannels[c][i] mapped to 16s full scale. */
+/* ---- channels: -1..1 floats and interleaved full-scale integers ------ */
+/* dst[i * nChannels + c] = srcChannels[c][i] (-1..1) at 16s full scale. */
 Status tavsJoinScaled_32f16s_D2L(const Tav32f* const* srcChannels, int nChannels, int chanLen, Tav16s* dst);
-/* dst[i * nChannels + c] = srcChannels[c][i] mapped to 24s full scale. */
+/* dst[i * nChannels + c] = srcChannels[c][i] (-1..1) at 24s full scale. */
 Status tavsJoinScaled_32f24s_D2L(const Tav32f* const* srcChannels, int nChannels, int chanLen, Tav8u* dst);
-/* dstChannels[c][i] = src[i * nChannels + c] mapped from 16s to -1..1. */
+/* dstChannels[c][i] = src[i * nChannels + c] mapped from 16s full scale to -1..1. */
 Status tavsSplitScaled_16s32f_D2L(const Tav16s* src, Tav32f* const* dstChannels, int nChannels, int chanLen);
-/* dstChannels[c][i] = src[i * nChannels + c] mapped from 24s to -1..1. */
+/* dstChannels[c][i] = src[i * nChannels + c] mapped from 24s full scale to -1..1. */
 Status tavsSplitScaled_24s32f_D2L(const Tav8u* src, Tav32f* const* dstChannels, int nChannels, int chanLen);
 
 /* @@ARITH25@@ (thresholds) */

@@ -140,6 +140,22 @@ TEST(ConvertHalf, Float32To16AgainstRuleBoundaries) { check_32f16f_bits(boundary
 
 TEST(ConvertHalf, Float32To16AgainstRuleRandom) { check_32f16f_bits(random_patterns(1 << 20), false); }
 
+// Runs of normal values, so whole vectors take the short path, up to the edges
+// where it must hand over to the full rule, and single odd lanes among them.
+TEST(ConvertHalf, Float32To16NormalRuns)
+{
+    std::vector<uint32_t> pats;
+    for (uint32_t base : {0x38800000u, 0x387FFFF8u, 0x477FEFF0u, 0x477FEFF8u, 0x477FFFF8u, 0x3F800000u, 0x46FFFFF0u})
+        for (uint32_t k = 0; k < 64; ++k) pats.push_back((base + k) | (k % 3 == 0 ? 0x80000000u : 0));
+    tt::Rng r(99);
+    for (int i = 0; i < 200000; ++i) {
+        uint32_t x = uint32_t(r.next() & 0x807FFFFF) | uint32_t(113 + r.next() % 30) << 23;
+        if (i % 97 == 0) x = uint32_t(r.next()); // now and then a lane from anywhere
+        pats.push_back(x);
+    }
+    check_32f16f_bits(pats, false);
+}
+
 // What the rule means: nearest is the correctly rounded half with ties to
 // even (apart from 2^-25, which goes up, and the sums just below FLT_MAX that
 // store 0x7DFF); truncation is rounding toward zero, with the largest finite
