@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include <xmmintrin.h>
+
 #include "convert_check.h"
 #include "tavs.h"
 #include "test_util.h"
@@ -154,6 +156,38 @@ TEST(ConvertHalf, Float32To16NormalRuns)
         pats.push_back(x);
     }
     check_32f16f_bits(pats, false);
+}
+
+// The conversions work on the bits: neither the caller's rounding direction
+// nor flush-to-zero and denormals-are-zero change a result.
+TEST(ConvertHalf, IndependentOfFloatControlState)
+{
+    auto pats = boundary_patterns();
+    const auto more = random_patterns(1 << 14);
+    pats.insert(pats.end(), more.begin(), more.end());
+    std::vector<float> src(pats.size());
+    for (size_t i = 0; i < pats.size(); ++i) src[i] = from_bits(pats[i]);
+    std::vector<Tav16f> all(65536);
+    for (uint32_t h = 0; h < 65536; ++h) all[h] = half(uint16_t(h));
+    const unsigned saved = _mm_getcsr();
+    // Round up, then toward zero, each with FTZ and DAZ set.
+    for (unsigned control : {0x4000u | 0x8040u, 0x6000u | 0x8040u}) {
+        std::vector<Tav16f> n(src.size()), t(src.size());
+        std::vector<Tav32f> w(all.size());
+        _mm_setcsr((saved & ~0xE040u) | control);
+        const Status a = tavsConvert_32f16f(src.data(), n.data(), int(src.size()), RoundHalfEven);
+        const Status b = tavsConvert_32f16f(src.data(), t.data(), int(src.size()), RoundTowardZero);
+        const Status c = tavsConvert_16f32f(all.data(), w.data(), int(all.size()));
+        _mm_setcsr(saved);
+        ASSERT_EQ(a, StatusOk);
+        ASSERT_EQ(b, StatusOk);
+        ASSERT_EQ(c, StatusOk);
+        for (size_t i = 0; i < src.size(); ++i) {
+            ASSERT_EQ(n[i].bits, ref_nearest(pats[i])) << std::hex << pats[i];
+            ASSERT_EQ(t[i].bits, ref_trunc(pats[i])) << std::hex << pats[i];
+        }
+        for (uint32_t h = 0; h < 65536; ++h) ASSERT_EQ(fbits(w[h]), ref_decode(uint16_t(h))) << h;
+    }
 }
 
 // What the rule means: nearest is the correctly rounded half with ties to
