@@ -16,7 +16,8 @@ namespace {
 template <class D, class Read> Status widen24(const Tav8u* src, D* dst, int len, Read read)
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
-    for (size_t i = 0; i < size_t(len); ++i) st<D>(dst, i, D(read(src, i)));
+    for (size_t i = 0; i < size_t(len); ++i)
+        st<D>(dst, i, D(read(src, i)));
     return StatusOk;
 }
 
@@ -52,8 +53,10 @@ template <class Tag> Status f32_to_24(const Tav32f* src, Tav8u* dst, int len, in
         const int64_t t = cvt_rtz(d);
         const double frac = d - double(t);
         int64_t r = t;
-        if (frac > 0.5 || (frac == 0.5 && (t & 1) != 0)) r = t + 1;
-        else if (frac < -0.5 || (frac == -0.5 && (t & 1) != 0)) r = t - 1;
+        if (frac > 0.5 || (frac == 0.5 && (t & 1) != 0))
+            r = t + 1;
+        else if (frac < -0.5 || (frac == -0.5 && (t & 1) != 0))
+            r = t - 1;
         write24(dst, i, r);
     }
     return StatusOk;
@@ -63,10 +66,22 @@ template <class Tag> Status f32_to_24(const Tav32f* src, Tav8u* dst, int len, in
 
 extern "C" {
 
-Status tavsConvert_24s32s_body(const Tav8u* src, Tav32s* dst, int len) { return widen24(src, dst, len, read24s); }
-Status tavsConvert_24u32u_body(const Tav8u* src, Tav32u* dst, int len) { return widen24(src, dst, len, read24); }
-Status tavsConvert_24s32f_body(const Tav8u* src, Tav32f* dst, int len) { return widen24(src, dst, len, read24s); }
-Status tavsConvert_24u32f_body(const Tav8u* src, Tav32f* dst, int len) { return widen24(src, dst, len, read24); }
+Status tavsConvert_24s32s_body(const Tav8u* src, Tav32s* dst, int len)
+{
+    return widen24(src, dst, len, read24s);
+}
+Status tavsConvert_24u32u_body(const Tav8u* src, Tav32u* dst, int len)
+{
+    return widen24(src, dst, len, read24);
+}
+Status tavsConvert_24s32f_body(const Tav8u* src, Tav32f* dst, int len)
+{
+    return widen24(src, dst, len, read24s);
+}
+Status tavsConvert_24u32f_body(const Tav8u* src, Tav32f* dst, int len)
+{
+    return widen24(src, dst, len, read24);
+}
 
 Status tavsConvert_32s24s_Sfs_body(const Tav32s* src, Tav8u* dst, int len, int scaleFactor)
 {

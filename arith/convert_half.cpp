@@ -88,7 +88,10 @@ uint16_t float_to_half_trunc(uint32_t x)
 }
 
 // ---- 32f to 16f, four lanes ---------------------------------------------------
-inline __m128i sel(__m128i mask, __m128i a, __m128i b) { return _mm_or_si128(_mm_and_si128(mask, a), _mm_andnot_si128(mask, b)); }
+inline __m128i sel(__m128i mask, __m128i a, __m128i b)
+{
+    return _mm_or_si128(_mm_and_si128(mask, a), _mm_andnot_si128(mask, b));
+}
 inline __m128i c32(uint32_t v) { return _mm_set1_epi32(int(v)); }
 
 // The subnormal range as |x| * 2^24 (exact, below 1024): truncated, or
@@ -120,7 +123,8 @@ template <bool Nearest> inline __m128i v_float_to_half(__m128i x)
     const __m128i sub = _mm_or_si128(v_subnormal<Nearest>(a), sign);
     __m128i r;
     if constexpr (Nearest) {
-        const __m128i sum = _mm_add_epi32(_mm_add_epi32(a, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
+        const __m128i sum =
+            _mm_add_epi32(_mm_add_epi32(a, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
         const __m128i normal = _mm_or_si128(
             _mm_and_si128(_mm_srli_epi32(_mm_add_epi32(sum, c32(0x8000000u)), 13), c32(0x7FFFu)), sign);
         const __m128i over = _mm_cmpgt_epi32(sum, c32(0x477FFFFFu));
@@ -142,7 +146,8 @@ template <bool Nearest> inline __m128i v_plain_half(__m128i x)
     const __m128i a = _mm_and_si128(x, c32(0x7FFFFFFFu));
     const __m128i sign = _mm_and_si128(_mm_srli_epi32(x, 16), c32(0x8000u));
     __m128i sum = _mm_add_epi32(a, c32(0x8000000u));
-    if constexpr (Nearest) sum = _mm_add_epi32(_mm_add_epi32(sum, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
+    if constexpr (Nearest)
+        sum = _mm_add_epi32(_mm_add_epi32(sum, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
     return _mm_or_si128(_mm_and_si128(_mm_srli_epi32(sum, 13), c32(0x7FFFu)), sign);
 }
 
@@ -217,8 +222,10 @@ Tav16s half_to_16s(uint16_t h, bool nearest, int sf)
     } else {
         const int64_t shift = -count;
         if (shift > 11) return 0;
-        if (nearest) mag = ((1023u >> (11 - shift)) + m + ((m >> shift) & 1u)) >> shift;
-        else mag = m >> shift;
+        if (nearest)
+            mag = ((1023u >> (11 - shift)) + m + ((m >> shift) & 1u)) >> shift;
+        else
+            mag = m >> shift;
     }
     return sat<Tav16s>(neg ? -mag : mag);
 }
@@ -234,12 +241,14 @@ Status tavsConvert_16f32f_body(const Tav16f* src, Tav32f* dst, int len)
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     drive<8>(
-        dst, size_t(len), 4, [&](size_t i) { st<uint32_t>(dst, i, half_to_float_bits(ld<uint16_t>(src, i))); },
+        dst, size_t(len), 4,
+        [&](size_t i) { st<uint32_t>(dst, i, half_to_float_bits(ld<uint16_t>(src, i))); },
         [&](size_t i) {
             const __m128i h = _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i));
             const __m128i z = _mm_setzero_si128();
             _mm_store_si128(reinterpret_cast<__m128i*>(dst + i), v_half_to_float(_mm_unpacklo_epi16(h, z)));
-            _mm_store_si128(reinterpret_cast<__m128i*>(dst + i + 4), v_half_to_float(_mm_unpackhi_epi16(h, z)));
+            _mm_store_si128(reinterpret_cast<__m128i*>(dst + i + 4),
+                            v_half_to_float(_mm_unpackhi_epi16(h, z)));
         });
     return StatusOk;
 }
@@ -248,8 +257,10 @@ Status tavsConvert_32f16f_body(const Tav32f* src, Tav16f* dst, int len, int rndM
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     if (Status chk = check_half_mode(rndMode); chk != StatusOk) return chk;
-    if (rndMode == RoundHalfEven) f32_to_16f<true>(src, dst, size_t(len));
-    else f32_to_16f<false>(src, dst, size_t(len));
+    if (rndMode == RoundHalfEven)
+        f32_to_16f<true>(src, dst, size_t(len));
+    else
+        f32_to_16f<false>(src, dst, size_t(len));
     return StatusOk;
 }
 
@@ -257,8 +268,10 @@ Status tavsConvert_16s16f_body(const Tav16s* src, Tav16f* dst, int len, int rndM
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     if (Status chk = check_half_mode(rndMode); chk != StatusOk) return chk;
-    if (rndMode == RoundHalfEven) s16_to_16f<true>(src, dst, size_t(len));
-    else s16_to_16f<false>(src, dst, size_t(len));
+    if (rndMode == RoundHalfEven)
+        s16_to_16f<true>(src, dst, size_t(len));
+    else
+        s16_to_16f<false>(src, dst, size_t(len));
     return StatusOk;
 }
 

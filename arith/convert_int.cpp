@@ -39,7 +39,8 @@ Status tavsConvert_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int 
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     for (size_t i = 0; i < size_t(len); ++i)
-        st<Tav16s>(dst, i, Tav16s(scale_narrow<Tav16s>(ld<Tav32s>(src, i), scaleFactor, 15, 31, RoundHalfEven)));
+        st<Tav16s>(dst, i,
+                   Tav16s(scale_narrow<Tav16s>(ld<Tav32s>(src, i), scaleFactor, 15, 31, RoundHalfEven)));
     return StatusOk;
 }
 
@@ -51,10 +52,12 @@ Status tavsConvert_16s8s_Sfs_body(const Tav16s* src, Tav8s* dst, int len, int rn
     switch (scale_path(scaleFactor, k16s8sLimits)) {
     case ScalePath::Zero:
         if (len > 0) return zero_fill(dst, len);
-        for (size_t i = 0; i < n; ++i) st<Tav8s>(dst, i, 0);
+        for (size_t i = 0; i < n; ++i)
+            st<Tav8s>(dst, i, 0);
         return StatusOk;
     case ScalePath::SignOnly:
-        for (size_t i = 0; i < n; ++i) st<Tav8s>(dst, i, sign_sat<Tav8s>(ld<Tav16s>(src, i)));
+        for (size_t i = 0; i < n; ++i)
+            st<Tav8s>(dst, i, sign_sat<Tav8s>(ld<Tav16s>(src, i)));
         return StatusOk;
     case ScalePath::Shift:
         for (size_t i = 0; i < n; ++i)

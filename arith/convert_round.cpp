@@ -59,8 +59,10 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
         [&](size_t i) {
             float x = ld<Tav32f>(src, i);
             if constexpr (Scale) x *= f;
-            if constexpr (hiOnly) st<D>(dst, i, sat<D>(cvt_mode(x < hi ? x : hi, Mode)));
-            else st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), Mode)));
+            if constexpr (hiOnly)
+                st<D>(dst, i, sat<D>(cvt_mode(x < hi ? x : hi, Mode)));
+            else
+                st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), Mode)));
         },
         [&](size_t i) {
             __m128i q[W / 4];
@@ -70,23 +72,29 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
                 if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
                 q[k] = vcvt_mode(_mm_min_ps(x, vhi), Mode);
             }
-            for (size_t k = 0; k < W / perStore; ++k) store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
+            for (size_t k = 0; k < W / perStore; ++k)
+                store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
         });
 }
 
 template <class D, bool Scale> void f32_small_modes(const Tav32f* src, D* dst, size_t n, float f, int rndMode)
 {
-    if (rndMode == RoundTowardZero) f32_small_kernel<D, Scale, RoundTowardZero>(src, dst, n, f);
-    else if (rndMode == RoundHalfEven) f32_small_kernel<D, Scale, RoundHalfEven>(src, dst, n, f);
-    else f32_small_kernel<D, Scale, RoundHalfAway>(src, dst, n, f);
+    if (rndMode == RoundTowardZero)
+        f32_small_kernel<D, Scale, RoundTowardZero>(src, dst, n, f);
+    else if (rndMode == RoundHalfEven)
+        f32_small_kernel<D, Scale, RoundHalfEven>(src, dst, n, f);
+    else
+        f32_small_kernel<D, Scale, RoundHalfAway>(src, dst, n, f);
 }
 
 template <class D> Status f32_to_small(const Tav32f* src, D* dst, int len, int rndMode, int scaleFactor)
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
     // Any value other than 0 and 1 takes the half-away path.
-    if (scaleFactor == 0) f32_small_modes<D, false>(src, dst, size_t(len), 1.0f, rndMode);
-    else f32_small_modes<D, true>(src, dst, size_t(len), pow2_neg<float>(scaleFactor), rndMode);
+    if (scaleFactor == 0)
+        f32_small_modes<D, false>(src, dst, size_t(len), 1.0f, rndMode);
+    else
+        f32_small_modes<D, true>(src, dst, size_t(len), pow2_neg<float>(scaleFactor), rndMode);
     return StatusOk;
 }
 
@@ -145,10 +153,12 @@ template <class D> Status f64_to_int(const Tav64f* src, D* dst, int len, int rnd
     const double lo = double(Limits<D>::min), hi = double(Limits<D>::max);
     const size_t n = size_t(len);
     if (scaleFactor == 0) {
-        for (size_t i = 0; i < n; ++i) st<D>(dst, i, f64_round<D>(ld<Tav64f>(src, i), lo, hi, rndMode));
+        for (size_t i = 0; i < n; ++i)
+            st<D>(dst, i, f64_round<D>(ld<Tav64f>(src, i), lo, hi, rndMode));
     } else {
         const double f = pow2_neg<double>(scaleFactor);
-        for (size_t i = 0; i < n; ++i) st<D>(dst, i, f64_round<D>(ld<Tav64f>(src, i) * f, lo, hi, rndMode));
+        for (size_t i = 0; i < n; ++i)
+            st<D>(dst, i, f64_round<D>(ld<Tav64f>(src, i) * f, lo, hi, rndMode));
     }
     return StatusOk;
 }
@@ -192,9 +202,12 @@ int64_t f64_to_64s(double x, int rndMode, int sf)
     const double af = frac < 0.0 ? -frac : frac;
     const int64_t away = frac < 0.0 ? -1 : 1;
     bool up;
-    if (rndMode == RoundTowardZero) up = false;
-    else if (rndMode == RoundHalfEven) up = af > 0.5 || (af == 0.5 && (t & 1) != 0);
-    else up = af >= 0.5;
+    if (rndMode == RoundTowardZero)
+        up = false;
+    else if (rndMode == RoundHalfEven)
+        up = af > 0.5 || (af == 0.5 && (t & 1) != 0);
+    else
+        up = af >= 0.5;
     return up ? t + away : t;
 }
 
@@ -236,12 +249,15 @@ Status tavsConvert_32f32s_Sfs_body(const Tav32f* src, Tav32s* dst, int len, int 
     const size_t n = size_t(len);
     const float f = scaleFactor == 0 ? 1.0f : pow2_neg<float>(scaleFactor);
     if (rndMode == RoundHalfEven) {
-        if (scaleFactor == 0) f32_32s_even<false>(src, dst, n, f);
-        else f32_32s_even<true>(src, dst, n, f);
+        if (scaleFactor == 0)
+            f32_32s_even<false>(src, dst, n, f);
+        else
+            f32_32s_even<true>(src, dst, n, f);
         return StatusOk;
     }
     if (scaleFactor == 0) {
-        for (size_t i = 0; i < n; ++i) st<Tav32s>(dst, i, f64_to_32s_rtz_rha(double(ld<Tav32f>(src, i)), rndMode));
+        for (size_t i = 0; i < n; ++i)
+            st<Tav32s>(dst, i, f64_to_32s_rtz_rha(double(ld<Tav32f>(src, i)), rndMode));
     } else {
         const double fd = double(f);
         for (size_t i = 0; i < n; ++i)
@@ -264,7 +280,8 @@ Status tavsConvert_64f64s_Sfs_body(const Tav64f* src, Tav64s* dst, int len, int 
 {
     if (Status chk = check_ptrs_ulen(len, src, dst); chk != StatusOk) return chk;
     const size_t n = uint32_t(len);
-    for (size_t i = 0; i < n; ++i) st<Tav64s>(dst, i, f64_to_64s(ld<Tav64f>(src, i), rndMode, scaleFactor));
+    for (size_t i = 0; i < n; ++i)
+        st<Tav64s>(dst, i, f64_to_64s(ld<Tav64f>(src, i), rndMode, scaleFactor));
     return StatusOk;
 }
 

@@ -19,8 +19,9 @@ template <size_t W, class S, class D, class Cvt, class Vec>
 Status widen(const S* src, D* dst, int len, Cvt cvt, Vec vec)
 {
     if (Status chk = check_ptrs_len(len, src, dst); chk != StatusOk) return chk;
-    drive<W>(dst, size_t(len), 8, [&](size_t i) { st_elem(dst, i, cvt(ld<S>(src, i))); },
-             [&](size_t i) { vec(src + i, dst + i); });
+    drive<W>(
+        dst, size_t(len), 8, [&](size_t i) { st_elem(dst, i, cvt(ld<S>(src, i))); },
+        [&](size_t i) { vec(src + i, dst + i); });
     return StatusOk;
 }
 
@@ -56,12 +57,14 @@ template <bool Signed> inline void widen_8(__m128i v, __m128i out[4])
 template <bool Signed> Status bytes_to_32f(const void* src, Tav32f* dst, int len)
 {
     using S = std::conditional_t<Signed, Tav8s, Tav8u>;
-    return widen<16>(static_cast<const S*>(src), dst, len, [](S v) { return Tav32f(v); },
-                     [](const S* s, Tav32f* d) {
-                         __m128i q[4];
-                         widen_8<Signed>(load16(s), q);
-                         for (int k = 0; k < 4; ++k) put_f32(d + 4 * k, q[k]);
-                     });
+    return widen<16>(
+        static_cast<const S*>(src), dst, len, [](S v) { return Tav32f(v); },
+        [](const S* s, Tav32f* d) {
+            __m128i q[4];
+            widen_8<Signed>(load16(s), q);
+            for (int k = 0; k < 4; ++k)
+                put_f32(d + 4 * k, q[k]);
+        });
 }
 
 // Eight 16-bit lanes widened to two vectors of 32-bit lanes.
@@ -122,71 +125,90 @@ extern "C" {
 
 Status tavsConvert_8s16s_body(const Tav8s* src, Tav16s* dst, int len)
 {
-    return widen<16>(src, dst, len, [](Tav8s v) { return Tav16s(v); }, [](const Tav8s* s, Tav16s* d) {
-        __m128i v = load16(s);
-        _mm_store_si128(reinterpret_cast<__m128i*>(d), _mm_srai_epi16(_mm_unpacklo_epi8(v, v), 8));
-        _mm_store_si128(reinterpret_cast<__m128i*>(d + 8), _mm_srai_epi16(_mm_unpackhi_epi8(v, v), 8));
-    });
+    return widen<16>(
+        src, dst, len, [](Tav8s v) { return Tav16s(v); },
+        [](const Tav8s* s, Tav16s* d) {
+            __m128i v = load16(s);
+            _mm_store_si128(reinterpret_cast<__m128i*>(d), _mm_srai_epi16(_mm_unpacklo_epi8(v, v), 8));
+            _mm_store_si128(reinterpret_cast<__m128i*>(d + 8), _mm_srai_epi16(_mm_unpackhi_epi8(v, v), 8));
+        });
 }
 
-Status tavsConvert_8s32f_body(const Tav8s* src, Tav32f* dst, int len) { return bytes_to_32f<true>(src, dst, len); }
-Status tavsConvert_8u32f_body(const Tav8u* src, Tav32f* dst, int len) { return bytes_to_32f<false>(src, dst, len); }
+Status tavsConvert_8s32f_body(const Tav8s* src, Tav32f* dst, int len)
+{
+    return bytes_to_32f<true>(src, dst, len);
+}
+Status tavsConvert_8u32f_body(const Tav8u* src, Tav32f* dst, int len)
+{
+    return bytes_to_32f<false>(src, dst, len);
+}
 
 Status tavsConvert_16s32f_body(const Tav16s* src, Tav32f* dst, int len)
 {
-    return widen<16>(src, dst, len, [](Tav16s v) { return Tav32f(v); }, [](const Tav16s* s, Tav32f* d) {
-        for (int k = 0; k < 2; ++k) {
-            __m128i a, b;
-            widen_16<true>(load16(s + 8 * k), a, b);
-            put_f32(d + 8 * k, a);
-            put_f32(d + 8 * k + 4, b);
-        }
-    });
+    return widen<16>(
+        src, dst, len, [](Tav16s v) { return Tav32f(v); },
+        [](const Tav16s* s, Tav32f* d) {
+            for (int k = 0; k < 2; ++k) {
+                __m128i a, b;
+                widen_16<true>(load16(s + 8 * k), a, b);
+                put_f32(d + 8 * k, a);
+                put_f32(d + 8 * k + 4, b);
+            }
+        });
 }
 
 Status tavsConvert_16u32f_body(const Tav16u* src, Tav32f* dst, int len)
 {
-    return widen<8>(src, dst, len, [](Tav16u v) { return Tav32f(v); }, [](const Tav16u* s, Tav32f* d) {
-        __m128i a, b;
-        widen_16<false>(load16(s), a, b);
-        put_f32(d, a);
-        put_f32(d + 4, b);
-    });
+    return widen<8>(
+        src, dst, len, [](Tav16u v) { return Tav32f(v); },
+        [](const Tav16u* s, Tav32f* d) {
+            __m128i a, b;
+            widen_16<false>(load16(s), a, b);
+            put_f32(d, a);
+            put_f32(d + 4, b);
+        });
 }
 
 Status tavsConvert_16s32s_body(const Tav16s* src, Tav32s* dst, int len)
 {
-    return widen<8>(src, dst, len, [](Tav16s v) { return Tav32s(v); }, [](const Tav16s* s, Tav32s* d) {
-        __m128i a, b;
-        widen_16s(load16(s), a, b);
-        _mm_store_si128(reinterpret_cast<__m128i*>(d), a);
-        _mm_store_si128(reinterpret_cast<__m128i*>(d + 4), b);
-    });
+    return widen<8>(
+        src, dst, len, [](Tav16s v) { return Tav32s(v); },
+        [](const Tav16s* s, Tav32s* d) {
+            __m128i a, b;
+            widen_16s(load16(s), a, b);
+            _mm_store_si128(reinterpret_cast<__m128i*>(d), a);
+            _mm_store_si128(reinterpret_cast<__m128i*>(d + 4), b);
+        });
 }
 
 // The integer-to-float instruction, so the caller's rounding direction
 // decides inexact results.
 Status tavsConvert_32s32f_body(const Tav32s* src, Tav32f* dst, int len)
 {
-    return widen<8>(src, dst, len, [](Tav32s v) { return Tav32f(v); }, [](const Tav32s* s, Tav32f* d) {
-        put_f32(d, load16(s));
-        put_f32(d + 4, load16(s + 4));
-    });
+    return widen<8>(
+        src, dst, len, [](Tav32s v) { return Tav32f(v); },
+        [](const Tav32s* s, Tav32f* d) {
+            put_f32(d, load16(s));
+            put_f32(d + 4, load16(s + 4));
+        });
 }
 
 Status tavsConvert_32s64f_body(const Tav32s* src, Tav64f* dst, int len)
 {
-    return widen<4>(src, dst, len, [](Tav32s v) { return Tav64f(v); },
-                    [](const Tav32s* s, Tav64f* d) { put_f64(d, load16(s)); });
+    return widen<4>(
+        src, dst, len, [](Tav32s v) { return Tav64f(v); },
+        [](const Tav32s* s, Tav64f* d) { put_f64(d, load16(s)); });
 }
 
 Status tavsConvert_32f64f_body(const Tav32f* src, Tav64f* dst, int len)
 {
-    return widen<4>(src, dst, len, [](Tav32f v) { return Tav64f(v); }, [](const Tav32f* s, Tav64f* d) {
-        __m128 v = _mm_loadu_ps(s);
-        _mm_store_pd(d, _mm_cvtps_pd(v));
-        _mm_store_pd(d + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
-    });
+    return widen<4>(
+        src, dst, len, [](Tav32f v) { return Tav64f(v); },
+        [](const Tav32f* s, Tav64f* d) {
+            __m128 v = _mm_loadu_ps(s);
+            _mm_store_pd(d, _mm_cvtps_pd(v));
+            _mm_store_pd(d + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
+        });
 }
 
 // len is an unsigned count here: only 0 is rejected.
@@ -194,7 +216,8 @@ Status tavsConvert_64s64f_body(const Tav64s* src, Tav64f* dst, int len)
 {
     if (Status chk = check_ptrs_ulen(len, src, dst); chk != StatusOk) return chk;
     const size_t n = uint32_t(len);
-    for (size_t i = 0; i < n; ++i) st<Tav64f>(dst, i, Tav64f(ld<Tav64s>(src, i)));
+    for (size_t i = 0; i < n; ++i)
+        st<Tav64f>(dst, i, Tav64f(ld<Tav64s>(src, i)));
     return StatusOk;
 }
 

@@ -45,28 +45,33 @@ template <class F> inline int64_t join_sample(float x, F scale, int64_t lo, int6
 
 extern "C" {
 
-Status tavsJoinScaled_32f16s_D2L_body(const Tav32f* const* srcChannels, int nChannels, int chanLen, Tav16s* dst)
+Status tavsJoinScaled_32f16s_D2L_body(const Tav32f* const* srcChannels, int nChannels, int chanLen,
+                                      Tav16s* dst)
 {
     if (Status chk = check_channels(dst, srcChannels, nChannels, chanLen); chk != StatusOk) return chk;
     const size_t nc = size_t(nChannels);
     for (size_t c = 0; c < nc; ++c)
         for (size_t i = 0; i < size_t(chanLen); ++i)
-            st<Tav16s>(dst, i * nc + c, Tav16s(join_sample(ld<Tav32f>(srcChannels[c], i), 32767.5f, -32768, 32767)));
+            st<Tav16s>(dst, i * nc + c,
+                       Tav16s(join_sample(ld<Tav32f>(srcChannels[c], i), 32767.5f, -32768, 32767)));
     return StatusOk;
 }
 
-Status tavsJoinScaled_32f24s_D2L_body(const Tav32f* const* srcChannels, int nChannels, int chanLen, Tav8u* dst)
+Status tavsJoinScaled_32f24s_D2L_body(const Tav32f* const* srcChannels, int nChannels, int chanLen,
+                                      Tav8u* dst)
 {
     if (Status chk = check_channels(dst, srcChannels, nChannels, chanLen); chk != StatusOk) return chk;
     const size_t nc = size_t(nChannels);
     for (size_t c = 0; c < nc; ++c)
         for (size_t i = 0; i < size_t(chanLen); ++i)
-            write24(dst, i * nc + c, join_sample(ld<Tav32f>(srcChannels[c], i), 8388607.5, -8388608, 8388607));
+            write24(dst, i * nc + c,
+                    join_sample(ld<Tav32f>(srcChannels[c], i), 8388607.5, -8388608, 8388607));
     return StatusOk;
 }
 
 // x * 2/(2^16 - 1) + 1/(2^16 - 1) in 32f.
-Status tavsSplitScaled_16s32f_D2L_body(const Tav16s* src, Tav32f* const* dstChannels, int nChannels, int chanLen)
+Status tavsSplitScaled_16s32f_D2L_body(const Tav16s* src, Tav32f* const* dstChannels, int nChannels,
+                                       int chanLen)
 {
     if (Status chk = check_channels(src, dstChannels, nChannels, chanLen); chk != StatusOk) return chk;
     const size_t nc = size_t(nChannels);
@@ -77,7 +82,8 @@ Status tavsSplitScaled_16s32f_D2L_body(const Tav16s* src, Tav32f* const* dstChan
 }
 
 // x * 2/(2^24 - 1) + 1/(2^24 - 1) in 64f, rounded once to 32f.
-Status tavsSplitScaled_24s32f_D2L_body(const Tav8u* src, Tav32f* const* dstChannels, int nChannels, int chanLen)
+Status tavsSplitScaled_24s32f_D2L_body(const Tav8u* src, Tav32f* const* dstChannels, int nChannels,
+                                       int chanLen)
 {
     if (Status chk = check_channels(src, dstChannels, nChannels, chanLen); chk != StatusOk) return chk;
     const size_t nc = size_t(nChannels);

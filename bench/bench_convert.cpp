@@ -66,7 +66,8 @@ void bm_16s32f_loop(benchmark::State& state)
     Buffer<Tav32f> d{size_t(n)};
     fill_16s(s.p, size_t(n));
     run(state, [&] {
-        for (int i = 0; i < n; ++i) d.p[i] = float(s.p[i]);
+        for (int i = 0; i < n; ++i)
+            d.p[i] = float(s.p[i]);
     });
 }
 #ifdef TAVS_HAVE_VOLK
@@ -148,7 +149,8 @@ void bm_32f16f_loop(benchmark::State& state)
     Buffer<Tav16f> d{size_t(n)};
     fill_32f(s.p, size_t(n), 1.0f);
     run(state, [&] {
-        for (int i = 0; i < n; ++i) d.p[i].bits = half_nearest(s.p[i]);
+        for (int i = 0; i < n; ++i)
+            d.p[i].bits = half_nearest(s.p[i]);
     });
 }
 

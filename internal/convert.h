@@ -66,10 +66,13 @@ inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec)
     const uintptr_t addr = reinterpret_cast<uintptr_t>(dst);
     if (n >= minVec && n >= W && addr % sizeof(D) == 0) {
         size_t head = ((16 - addr % 16) % 16) / sizeof(D);
-        for (; i < head && i < n; ++i) scalar(i);
-        for (; i + W <= n; i += W) vec(i);
+        for (; i < head && i < n; ++i)
+            scalar(i);
+        for (; i + W <= n; i += W)
+            vec(i);
     }
-    for (; i < n; ++i) scalar(i);
+    for (; i < n; ++i)
+        scalar(i);
 }
 
 // 2^-sf in F, built by halving or doubling 1.0 |sf| times so that every step

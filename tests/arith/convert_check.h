@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstdlib>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <vector>
 
@@ -27,9 +27,13 @@ struct B3 {
 inline B3 make24(int64_t v)
 {
     const uint32_t u = uint32_t(v);
-    return B3{{static_cast<unsigned char>(u), static_cast<unsigned char>(u >> 8), static_cast<unsigned char>(u >> 16)}};
+    return B3{{static_cast<unsigned char>(u), static_cast<unsigned char>(u >> 8),
+               static_cast<unsigned char>(u >> 16)}};
 }
-inline int32_t as24s(B3 e) { return int32_t((uint32_t(e.b[0]) | uint32_t(e.b[1]) << 8 | uint32_t(e.b[2]) << 16) << 8) >> 8; }
+inline int32_t as24s(B3 e)
+{
+    return int32_t((uint32_t(e.b[0]) | uint32_t(e.b[1]) << 8 | uint32_t(e.b[2]) << 16) << 8) >> 8;
+}
 inline uint32_t as24u(B3 e) { return uint32_t(e.b[0]) | uint32_t(e.b[1]) << 8 | uint32_t(e.b[2]) << 16; }
 
 template <class T> inline T get(const void* p, size_t i)
@@ -53,12 +57,13 @@ template <class T> inline uint64_t bits_of(const T& v)
 // n zeroed elements that end exactly where an inaccessible page begins, so a
 // call that runs past them faults at once.
 template <class T> class PageEnd {
-public:
+  public:
     explicit PageEnd(size_t n) : page_(size_t(sysconf(_SC_PAGESIZE)))
     {
         const size_t room = (n * sizeof(T) + page_ - 1) / page_ * page_;
         size_ = room + page_;
-        base_ = static_cast<unsigned char*>(mmap(nullptr, size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        base_ = static_cast<unsigned char*>(
+            mmap(nullptr, size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
         if (base_ == MAP_FAILED) std::abort();
         mprotect(base_ + room, page_, PROT_NONE);
         data_ = reinterpret_cast<T*>(base_ + room - n * sizeof(T));
@@ -68,7 +73,7 @@ public:
     PageEnd& operator=(const PageEnd&) = delete;
     T* data() { return data_; }
 
-private:
+  private:
     size_t page_, size_ = 0;
     unsigned char* base_ = nullptr;
     T* data_ = nullptr;
@@ -109,7 +114,8 @@ void sweep(const std::vector<S>& pool, Call call, Ref ref, int maxLen = 70)
             tt::Guarded<S> s(size_t(len), srcOff);
             tt::Guarded<D> d(size_t(len), off);
             const size_t first = (size_t(len) * 3 + off) % 16;
-            for (int i = 0; i < len; ++i) put<S>(s.data(), size_t(i), pool[first + size_t(i)]);
+            for (int i = 0; i < len; ++i)
+                put<S>(s.data(), size_t(i), pool[first + size_t(i)]);
             const Status st = call(s.data(), d.data(), len);
             if (len == 0) {
                 EXPECT_EQ(st, ErrSize);
@@ -147,7 +153,8 @@ template <class S, class D, class Call> void in_place(const std::vector<S>& pool
             }
             ASSERT_EQ(call(s.data(), d.data(), len), StatusOk);
             ASSERT_EQ(call(io.data(), io.data(), len), StatusOk);
-            ASSERT_EQ(std::memcmp(d.data(), io.data(), size_t(len) * sizeof(D)), 0) << "len " << len << " offset " << off;
+            ASSERT_EQ(std::memcmp(d.data(), io.data(), size_t(len) * sizeof(D)), 0)
+                << "len " << len << " offset " << off;
             ASSERT_TRUE(io.borders_intact());
         }
     }
@@ -188,8 +195,10 @@ inline int64_t ref_scale(int64_t e, int64_t sf, int leftMax, int rightMax, int m
         rem += div;
     } // now floor, 0 <= rem < div
     i128 r;
-    if (mode == 1) r = q + ((rem > half || (rem == half && (q & 1) != 0)) ? 1 : 0);
-    else if (mode == 0) r = (e < 0 && rem != 0) ? q + 1 : q;
+    if (mode == 1)
+        r = q + ((rem > half || (rem == half && (q & 1) != 0)) ? 1 : 0);
+    else if (mode == 0)
+        r = (e < 0 && rem != 0) ? q + 1 : q;
     else {
         const i128 mag = e < 0 ? -i128(e) : i128(e);
         const i128 m = (mag + half) / div;
@@ -205,9 +214,15 @@ inline std::vector<float> float_pool(tt::Rng& r, size_t n, float range)
     std::vector<float> v(n);
     for (auto& x : v) {
         switch (r.next() % 6) {
-        case 0: x = float(r.range(-40, 40)) * 0.5f; break;
-        case 1: x = float(r.range(-2, 2)) + (r.next() % 2 ? range : -range); break;
-        case 2: x = float(r.range(-int64_t(range) * 2, int64_t(range) * 2)) + 0.5f; break;
+        case 0:
+            x = float(r.range(-40, 40)) * 0.5f;
+            break;
+        case 1:
+            x = float(r.range(-2, 2)) + (r.next() % 2 ? range : -range);
+            break;
+        case 2:
+            x = float(r.range(-int64_t(range) * 2, int64_t(range) * 2)) + 0.5f;
+            break;
         default: {
             const double mag = std::ldexp(r.uniform(1.0, 2.0), int(r.range(-30, 40)));
             x = float(r.next() % 2 ? mag : -mag);

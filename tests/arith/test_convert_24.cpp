@@ -18,10 +18,17 @@ std::vector<B3> pool24(tt::Rng& r, size_t n)
     std::vector<B3> v(n);
     for (auto& e : v) {
         switch (r.next() % 5) {
-        case 0: e = ct::make24(0x7FFFFF); break;
-        case 1: e = ct::make24(0x800000); break;
-        case 2: e = ct::make24(r.range(-3, 3)); break;
-        default: e = ct::make24(int64_t(r.next()));
+        case 0:
+            e = ct::make24(0x7FFFFF);
+            break;
+        case 1:
+            e = ct::make24(0x800000);
+            break;
+        case 2:
+            e = ct::make24(r.range(-3, 3));
+            break;
+        default:
+            e = ct::make24(int64_t(r.next()));
         }
     }
     return v;
@@ -69,7 +76,9 @@ template <class S, class Fn> void check_int_to24(Fn fn, int64_t lo, int64_t hi)
 {
     tt::Rng r(2424 + sizeof(S));
     for (int sf = -40; sf <= 70; ++sf) {
-        auto call = [&](const void* s, void* d, int len) { return fn(static_cast<const S*>(s), static_cast<Tav8u*>(d), len, sf); };
+        auto call = [&](const void* s, void* d, int len) {
+            return fn(static_cast<const S*>(s), static_cast<Tav8u*>(d), len, sf);
+        };
         auto ref = [&](S v) { return ct::make24(ct::ref_scale(int64_t(v), sf, 31, 31, 1, lo, hi)); };
         if (sf == 0) {
             ct::check_errors<S, B3>(call);
@@ -77,7 +86,8 @@ template <class S, class Fn> void check_int_to24(Fn fn, int64_t lo, int64_t hi)
         }
         auto pool = tt::random_vector<S>(r, 300);
         if (sf >= 1 && sf <= 30)
-            for (size_t i = 0; i < pool.size(); i += 4) pool[i] = S((uint64_t(r.range(0, 3)) << sf) + (uint64_t(1) << (sf - 1)));
+            for (size_t i = 0; i < pool.size(); i += 4)
+                pool[i] = S((uint64_t(r.range(0, 3)) << sf) + (uint64_t(1) << (sf - 1)));
         std::vector<B3> dst(pool.size());
         ASSERT_EQ(fn(pool.data(), reinterpret_cast<Tav8u*>(dst.data()), int(pool.size()), sf), StatusOk);
         for (size_t i = 0; i < pool.size(); ++i) {
@@ -129,7 +139,8 @@ int64_t ref_f24(float x, int sf, double lo, double hi)
 template <class Fn> void check_f24(Fn fn, double lo, double hi)
 {
     tt::Rng r{uint64_t(hi)};
-    for (int sf : {INT_MIN, -200, -127, -126, -40, -10, -1, 0, 1, 2, 10, 23, 40, 100, 126, 127, 128, INT_MAX}) {
+    for (int sf :
+         {INT_MIN, -200, -127, -126, -40, -10, -1, 0, 1, 2, 10, 23, 40, 100, 126, 127, 128, INT_MAX}) {
         auto call = [&](const void* s, void* d, int len) {
             return fn(static_cast<const Tav32f*>(s), static_cast<Tav8u*>(d), len, sf);
         };

@@ -70,7 +70,8 @@ uint16_t ref_trunc(uint32_t x)
     if (e == 255) return (x & 0x7FFFFF) ? 0x7DFF : uint16_t(0x7C00 | sign);
     if (e >= 143) return uint16_t(0x7BFF | sign);
     if (e >= 113) return uint16_t((((x + 0x8000000) >> 13) & 0x7FFF) | sign);
-    if ((x & 0x7F800000) > 0x33000000) return uint16_t((((x & 0xFFFFFF) | 0x800000) >> (30 - (e & 0x1F))) | sign);
+    if ((x & 0x7F800000) > 0x33000000)
+        return uint16_t((((x & 0xFFFFFF) | 0x800000) >> (30 - (e & 0x1F))) | sign);
     return uint16_t(sign);
 }
 
@@ -84,7 +85,8 @@ std::vector<uint32_t> boundary_patterns()
                               0x7FE000, 0x7FEFFF, 0x7FF000, 0x7FF001, 0x7FFFFF, 0x7FDFFF, 0x1800,   0x200000};
     for (uint32_t e = 0; e < 256; ++e)
         for (uint32_t f : fracs)
-            for (uint32_t s : {0u, 1u}) v.push_back(s << 31 | e << 23 | f);
+            for (uint32_t s : {0u, 1u})
+                v.push_back(s << 31 | e << 23 | f);
     // Subnormal ties at every shift: the bit just below the kept ones.
     for (uint32_t e = 100; e <= 114; ++e)
         for (uint32_t k = 10; k <= 24; ++k)
@@ -93,10 +95,11 @@ std::vector<uint32_t> boundary_patterns()
                 v.push_back(e << 23 | f);
                 v.push_back(e << 23 | (f | (1u << k)) & 0x7FFFFF);
             }
-    for (uint32_t b : {0x32800000u, 0x32800001u, 0x33000000u, 0x33000001u, 0x33800000u, 0x387FFFFFu, 0x38800000u,
-                       0x477FE000u, 0x477FEFFFu, 0x477FF000u, 0x47800000u, 0x7F7FF000u, 0x7F7FEFFFu, 0x7F7FFFFFu,
-                       0x7F800000u, 0x7F800001u, 0x7FC00000u, 0x7FFFFFFFu})
-        for (uint32_t s : {0u, 0x80000000u}) v.push_back(b | s);
+    for (uint32_t b : {0x32800000u, 0x32800001u, 0x33000000u, 0x33000001u, 0x33800000u, 0x387FFFFFu,
+                       0x38800000u, 0x477FE000u, 0x477FEFFFu, 0x477FF000u, 0x47800000u, 0x7F7FF000u,
+                       0x7F7FEFFFu, 0x7F7FFFFFu, 0x7F800000u, 0x7F800001u, 0x7FC00000u, 0x7FFFFFFFu})
+        for (uint32_t s : {0u, 0x80000000u})
+            v.push_back(b | s);
     return v;
 }
 
@@ -107,8 +110,10 @@ std::vector<uint32_t> random_patterns(size_t n)
     for (size_t i = 0; i < n; ++i) {
         const uint64_t z = r.next();
         // Half the draws anywhere, half with exponents around the half range.
-        if (i % 2) v[i] = uint32_t(z);
-        else v[i] = uint32_t(z & 0x807FFFFF) | uint32_t(95 + (z >> 40) % 55) << 23;
+        if (i % 2)
+            v[i] = uint32_t(z);
+        else
+            v[i] = uint32_t(z & 0x807FFFFF) | uint32_t(95 + (z >> 40) % 55) << 23;
     }
     return v;
 }
@@ -125,7 +130,8 @@ auto call_32f16f(int mode)
 void check_32f16f_bits(const std::vector<uint32_t>& pats, bool elementwise)
 {
     std::vector<float> src(pats.size());
-    for (size_t i = 0; i < pats.size(); ++i) src[i] = from_bits(pats[i]);
+    for (size_t i = 0; i < pats.size(); ++i)
+        src[i] = from_bits(pats[i]);
     for (int mode : {1, 0, 7, -1}) {
         auto ref = [mode](float f) { return half(mode == 1 ? ref_nearest(fbits(f)) : ref_trunc(fbits(f))); };
         ct::bulk<Tav32f, Tav16f>(src, call_32f16f(mode), ref);
@@ -147,8 +153,10 @@ TEST(ConvertHalf, Float32To16AgainstRuleRandom) { check_32f16f_bits(random_patte
 TEST(ConvertHalf, Float32To16NormalRuns)
 {
     std::vector<uint32_t> pats;
-    for (uint32_t base : {0x38800000u, 0x387FFFF8u, 0x477FEFF0u, 0x477FEFF8u, 0x477FFFF8u, 0x3F800000u, 0x46FFFFF0u})
-        for (uint32_t k = 0; k < 64; ++k) pats.push_back((base + k) | (k % 3 == 0 ? 0x80000000u : 0));
+    for (uint32_t base :
+         {0x38800000u, 0x387FFFF8u, 0x477FEFF0u, 0x477FEFF8u, 0x477FFFF8u, 0x3F800000u, 0x46FFFFF0u})
+        for (uint32_t k = 0; k < 64; ++k)
+            pats.push_back((base + k) | (k % 3 == 0 ? 0x80000000u : 0));
     tt::Rng r(99);
     for (int i = 0; i < 200000; ++i) {
         uint32_t x = uint32_t(r.next() & 0x807FFFFF) | uint32_t(113 + r.next() % 30) << 23;
@@ -166,9 +174,11 @@ TEST(ConvertHalf, IndependentOfFloatControlState)
     const auto more = random_patterns(1 << 14);
     pats.insert(pats.end(), more.begin(), more.end());
     std::vector<float> src(pats.size());
-    for (size_t i = 0; i < pats.size(); ++i) src[i] = from_bits(pats[i]);
+    for (size_t i = 0; i < pats.size(); ++i)
+        src[i] = from_bits(pats[i]);
     std::vector<Tav16f> all(65536);
-    for (uint32_t h = 0; h < 65536; ++h) all[h] = half(uint16_t(h));
+    for (uint32_t h = 0; h < 65536; ++h)
+        all[h] = half(uint16_t(h));
     const unsigned saved = _mm_getcsr();
     // Round up, then toward zero, each with FTZ and DAZ set.
     for (unsigned control : {0x4000u | 0x8040u, 0x6000u | 0x8040u}) {
@@ -186,7 +196,8 @@ TEST(ConvertHalf, IndependentOfFloatControlState)
             ASSERT_EQ(n[i].bits, ref_nearest(pats[i])) << std::hex << pats[i];
             ASSERT_EQ(t[i].bits, ref_trunc(pats[i])) << std::hex << pats[i];
         }
-        for (uint32_t h = 0; h < 65536; ++h) ASSERT_EQ(fbits(w[h]), ref_decode(uint16_t(h))) << h;
+        for (uint32_t h = 0; h < 65536; ++h)
+            ASSERT_EQ(fbits(w[h]), ref_decode(uint16_t(h))) << h;
     }
 }
 
@@ -197,7 +208,8 @@ TEST(ConvertHalf, IndependentOfFloatControlState)
 TEST(ConvertHalf, Float32To16MeansRounding)
 {
     std::vector<double> table; // every non-negative finite half, in order
-    for (uint16_t h = 0; h < 0x7C00; ++h) table.push_back(half_value(h));
+    for (uint16_t h = 0; h < 0x7C00; ++h)
+        table.push_back(half_value(h));
     auto pats = random_patterns(1 << 17);
     const auto more = boundary_patterns();
     pats.insert(pats.end(), more.begin(), more.end());
@@ -217,8 +229,10 @@ TEST(ConvertHalf, Float32To16MeansRounding)
         const uint16_t t = uint16_t(lo) | sign;
         ASSERT_EQ(trunc[i].bits, t) << "truncating " << src[i];
         uint16_t n;
-        if (a >= 65520.0) n = 0x7C00 | sign;
-        else if (lo + 1 == table.size()) n = uint16_t(lo) | sign;
+        if (a >= 65520.0)
+            n = 0x7C00 | sign;
+        else if (lo + 1 == table.size())
+            n = uint16_t(lo) | sign;
         else {
             const double below = table[lo], above = table[lo + 1];
             const bool up = a - below > above - a || (a - below == above - a && (lo & 1) != 0);
@@ -247,7 +261,8 @@ TEST(ConvertHalf, Float32To16DocumentedValues)
     // rndMode 7 truncates too.
     Tav16f e[6];
     ASSERT_EQ(tavsConvert_32f16f(src, e, 6, 7), StatusOk);
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(e[i].bits, d[i].bits);
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(e[i].bits, d[i].bits);
     // Infinity, NaN, and a finite value whose rounded sum has the shape of a NaN.
     const float sp[4] = {std::numeric_limits<float>::infinity(), -std::numeric_limits<float>::infinity(),
                          std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::max()};
@@ -272,7 +287,8 @@ template <class S, class D, class Call> void check_round_mode_errors(Call call)
     EXPECT_EQ(call(s.data(), d.data(), 8, 2), ErrRoundMode);
     EXPECT_EQ(call(s.data(), d.data(), 0, 5), ErrSize);
     EXPECT_TRUE(d.untouched());
-    for (int mode : {0, 1, 3, 7, -1, INT_MIN}) EXPECT_EQ(call(s.data(), d.data(), 8, mode), StatusOk);
+    for (int mode : {0, 1, 3, 7, -1, INT_MIN})
+        EXPECT_EQ(call(s.data(), d.data(), 8, mode), StatusOk);
 }
 
 TEST(ConvertHalf, RoundModeErrors)
@@ -292,9 +308,11 @@ TEST(ConvertHalf, Float32To16Sweep)
 {
     const auto b = boundary_patterns();
     std::vector<float> pool;
-    for (size_t i = 0; i < b.size(); i += 37) pool.push_back(from_bits(b[i]));
+    for (size_t i = 0; i < b.size(); i += 37)
+        pool.push_back(from_bits(b[i]));
     tt::Rng r(3);
-    for (int i = 0; i < 100; ++i) pool.push_back(float(r.uniform(-70000.0, 70000.0)));
+    for (int i = 0; i < 100; ++i)
+        pool.push_back(float(r.uniform(-70000.0, 70000.0)));
     for (int mode : {0, 1}) {
         auto ref = [mode](float f) { return half(mode == 1 ? ref_nearest(fbits(f)) : ref_trunc(fbits(f))); };
         ct::sweep<Tav32f, Tav16f>(pool, call_32f16f(mode), ref);
@@ -306,7 +324,8 @@ TEST(ConvertHalf, Float32To16Sweep)
 TEST(ConvertHalf, HalfTo32Exhaustive)
 {
     std::vector<Tav16f> all(65536);
-    for (uint32_t h = 0; h < 65536; ++h) all[h] = half(uint16_t(h));
+    for (uint32_t h = 0; h < 65536; ++h)
+        all[h] = half(uint16_t(h));
     auto call = [](const void* s, void* d, int len) {
         return tavsConvert_16f32f(static_cast<const Tav16f*>(s), static_cast<Tav32f*>(d), len);
     };
@@ -315,7 +334,8 @@ TEST(ConvertHalf, HalfTo32Exhaustive)
     // The same through the scalar path: a destination off its element alignment.
     tt::Guarded<Tav32f> g(65536, 1);
     ASSERT_EQ(tavsConvert_16f32f(all.data(), g.data(), 65536), StatusOk);
-    for (uint32_t h = 0; h < 65536; ++h) ASSERT_EQ(ct::get<uint32_t>(g.data(), h), ref_decode(uint16_t(h))) << h;
+    for (uint32_t h = 0; h < 65536; ++h)
+        ASSERT_EQ(ct::get<uint32_t>(g.data(), h), ref_decode(uint16_t(h))) << h;
     EXPECT_TRUE(g.borders_intact());
     ct::check_errors<Tav16f, Tav32f>(call);
     std::vector<Tav16f> pool(all.begin() + 0x7B00, all.begin() + 0x7C80);
@@ -337,7 +357,8 @@ TEST(ConvertHalf, HalfTo32Exhaustive)
 TEST(ConvertHalf, Int16To16Exhaustive)
 {
     std::vector<Tav16s> all(65536);
-    for (int v = 0; v < 65536; ++v) all[size_t(v)] = Tav16s(v - 32768);
+    for (int v = 0; v < 65536; ++v)
+        all[size_t(v)] = Tav16s(v - 32768);
     for (int mode : {1, 0, 9}) {
         auto call = [mode](const void* s, void* d, int len) {
             return tavsConvert_16s16f(static_cast<const Tav16s*>(s), static_cast<Tav16f*>(d), len, mode);
@@ -364,13 +385,15 @@ TEST(ConvertHalf, InPlace)
     tt::Rng r(5);
     const auto p16 = tt::random_vector<Tav16s>(r, 70);
     std::vector<Tav16f> ph(70);
-    for (auto& h : ph) h = half(uint16_t(r.next()));
+    for (auto& h : ph)
+        h = half(uint16_t(r.next()));
     for (int mode : {0, 1}) {
         ct::in_place<Tav16s, Tav16f>(p16, [mode](const void* s, void* d, int len) {
             return tavsConvert_16s16f(static_cast<const Tav16s*>(s), static_cast<Tav16f*>(d), len, mode);
         });
         ct::in_place<Tav16f, Tav16s>(ph, [mode](const void* s, void* d, int len) {
-            return tavsConvert_16f16s_Sfs(static_cast<const Tav16f*>(s), static_cast<Tav16s*>(d), len, mode, -3);
+            return tavsConvert_16f16s_Sfs(static_cast<const Tav16f*>(s), static_cast<Tav16s*>(d), len, mode,
+                                          -3);
         });
     }
 }
@@ -391,35 +414,40 @@ Tav16s ref_half_16s(uint16_t h, bool nearest, int sf)
 TEST(ConvertHalf, HalfTo16s)
 {
     std::vector<Tav16f> all(65536);
-    for (uint32_t h = 0; h < 65536; ++h) all[h] = half(uint16_t(h));
+    for (uint32_t h = 0; h < 65536; ++h)
+        all[h] = half(uint16_t(h));
     tt::Rng r(1616);
     for (int mode : {1, 0, 6}) {
         for (int sf = -40; sf <= 70; ++sf) {
             auto call = [&](const void* s, void* d, int len) {
-                return tavsConvert_16f16s_Sfs(static_cast<const Tav16f*>(s), static_cast<Tav16s*>(d), len, mode, sf);
+                return tavsConvert_16f16s_Sfs(static_cast<const Tav16f*>(s), static_cast<Tav16s*>(d), len,
+                                              mode, sf);
             };
             auto ref = [&](Tav16f h) { return ref_half_16s(h.bits, mode == 1, sf); };
             if (sf == -20 || sf == -1 || sf == 0 || sf == 5 || sf == 14 || sf == 26) {
                 ct::bulk<Tav16f, Tav16s>(all, call, ref);
             } else {
                 std::vector<Tav16f> some(500);
-                for (auto& h : some) h = all[r.next() % 65536];
+                for (auto& h : some)
+                    h = all[r.next() % 65536];
                 ct::bulk<Tav16f, Tav16s>(some, call, ref);
             }
-            if (sf == 0) ct::sweep<Tav16f, Tav16s>(std::vector<Tav16f>(all.begin() + 0x7000, all.begin() + 0x7100), call, ref);
+            if (sf == 0)
+                ct::sweep<Tav16f, Tav16s>(std::vector<Tav16f>(all.begin() + 0x7000, all.begin() + 0x7100),
+                                          call, ref);
         }
     }
     const Tav16f v[6] = {half(0x3E00), half(0x4100), half(0xFC00), half(0x7C00), half(0x7E00), half(0x0001)};
     Tav16s d[6];
     ASSERT_EQ(tavsConvert_16f16s_Sfs(v, d, 6, RoundHalfEven, 0), StatusOk);
-    EXPECT_EQ(d[0], 2);  // 1.5
-    EXPECT_EQ(d[1], 2);  // 2.5
+    EXPECT_EQ(d[0], 2); // 1.5
+    EXPECT_EQ(d[1], 2); // 2.5
     EXPECT_EQ(d[2], -32768);
     EXPECT_EQ(d[3], 32767);
-    EXPECT_EQ(d[4], 0);  // NaN
+    EXPECT_EQ(d[4], 0); // NaN
     EXPECT_EQ(d[5], 0);
     ASSERT_EQ(tavsConvert_16f16s_Sfs(v, d, 6, RoundTowardZero, -24), StatusOk);
-    EXPECT_EQ(d[5], 1);  // 2^-24 * 2^24
+    EXPECT_EQ(d[5], 1); // 2^-24 * 2^24
     EXPECT_EQ(d[0], 32767);
     ASSERT_EQ(tavsConvert_16f16s_Sfs(v, d, 6, RoundHalfEven, INT_MAX), StatusOk);
     EXPECT_EQ(d[1], 0);

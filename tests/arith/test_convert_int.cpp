@@ -19,7 +19,8 @@ template <class T> std::vector<T> narrow_pool(tt::Rng& r, size_t n, int s)
         for (size_t i = 0; i < n; i += 3) {
             const int64_t q = r.range(-5, 5);
             const int64_t tie = q * (INT64_C(1) << s) + (INT64_C(1) << (s - 1)) + r.range(-1, 1);
-            v[i] = T(clamp128(tie, int64_t(std::numeric_limits<T>::min()), int64_t(std::numeric_limits<T>::max())));
+            v[i] = T(clamp128(tie, int64_t(std::numeric_limits<T>::min()),
+                              int64_t(std::numeric_limits<T>::max())));
         }
     }
     return v;
@@ -86,7 +87,8 @@ TEST(ConvertInt, Scaled64sTo32s)
     for (int mode : {0, 1, 2, 5, -3}) {
         for (int sf = -40; sf <= 70; ++sf) {
             auto call = [&](const void* s, void* d, int len) {
-                return tavsConvert_64s32s_Sfs(static_cast<const Tav64s*>(s), static_cast<Tav32s*>(d), len, mode, sf);
+                return tavsConvert_64s32s_Sfs(static_cast<const Tav64s*>(s), static_cast<Tav32s*>(d), len,
+                                              mode, sf);
             };
             auto ref = [&](Tav64s v) { return Tav32s(ref_scale(v, sf, 31, 63, mode, INT32_MIN, INT32_MAX)); };
             if (sf == 1) ct::check_errors<Tav64s, Tav32s>(call);
@@ -120,7 +122,8 @@ TEST(ConvertInt, Scaled16sTo8s)
     for (int mode : {0, 1, 2, 3}) {
         for (int sf = -40; sf <= 70; ++sf) {
             auto call = [&](const void* s, void* d, int len) {
-                return tavsConvert_16s8s_Sfs(static_cast<const Tav16s*>(s), static_cast<Tav8s*>(d), len, mode, sf);
+                return tavsConvert_16s8s_Sfs(static_cast<const Tav16s*>(s), static_cast<Tav8s*>(d), len, mode,
+                                             sf);
             };
             auto ref = [&](Tav16s v) {
                 if (sf >= 18) return Tav8s(0);
@@ -154,10 +157,12 @@ TEST(ConvertInt, Scaled16sTo8s)
     EXPECT_EQ(d[3], 0);
     // Zeros from 18 on, for any element, any mode.
     Tav16s full[64];
-    for (int i = 0; i < 64; ++i) full[i] = Tav16s(i * 1000 - 32000);
+    for (int i = 0; i < 64; ++i)
+        full[i] = Tav16s(i * 1000 - 32000);
     tt::Guarded<Tav8s> g(64);
     ASSERT_EQ(tavsConvert_16s8s_Sfs(full, g.data(), 64, 2, 18), StatusOk);
-    for (int i = 0; i < 64; ++i) EXPECT_EQ(g.data()[i], 0);
+    for (int i = 0; i < 64; ++i)
+        EXPECT_EQ(g.data()[i], 0);
     EXPECT_TRUE(g.borders_intact());
 }
 

@@ -27,7 +27,8 @@ double clampd(double v, double lo, double hi) { return v < lo ? lo : (v > hi ? h
 template <class D> D ref_f32(float x, int mode, int sf)
 {
     const float p = sf == 0 ? x : x * std::ldexp(1.0f, -sf);
-    return D(ref_round(clampd(p, double(std::numeric_limits<D>::min()), double(std::numeric_limits<D>::max())), mode));
+    return D(ref_round(
+        clampd(p, double(std::numeric_limits<D>::min()), double(std::numeric_limits<D>::max())), mode));
 }
 
 template <class D, class Fn> void check_f32(Fn fn, float range)
@@ -107,9 +108,11 @@ TEST(ConvertRound, EvenPathFollowsCaller)
     std::fesetround(old);
     ASSERT_EQ(a, StatusOk);
     ASSERT_EQ(b, StatusOk);
-    for (int i = 0; i < 8; ++i) EXPECT_EQ(up[i], 3);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(up[i], 3);
     EXPECT_EQ(up[8], -2);
-    for (int i = 0; i < 8; ++i) EXPECT_EQ(away[i], 3);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(away[i], 3);
     EXPECT_EQ(away[8], -3);
 }
 
@@ -153,7 +156,8 @@ TEST(ConvertRound, Float32ToInt32)
     for (int mode : kModes) {
         for (int sf = -40; sf <= 40; ++sf) {
             auto call = [&](const void* s, void* d, int len) {
-                return tavsConvert_32f32s_Sfs(static_cast<const Tav32f*>(s), static_cast<Tav32s*>(d), len, mode, sf);
+                return tavsConvert_32f32s_Sfs(static_cast<const Tav32f*>(s), static_cast<Tav32s*>(d), len,
+                                              mode, sf);
             };
             auto ref = [&](float x) { return ref_32f32s(x, mode, sf); };
             if (sf == 0 || sf == -5) {
@@ -167,8 +171,8 @@ TEST(ConvertRound, Float32ToInt32)
 
 TEST(ConvertRound, Float32ToInt32Limits)
 {
-    const float src[6] = {2147483520.0f, 2147483648.0f, -2147483648.0f, -3e9f,
-                          std::numeric_limits<float>::infinity(), 1e20f};
+    const float src[6] = {
+        2147483520.0f, 2147483648.0f, -2147483648.0f, -3e9f, std::numeric_limits<float>::infinity(), 1e20f};
     Tav32s d[6];
     ASSERT_EQ(tavsConvert_32f32s_Sfs(src, d, 6, RoundHalfEven, 0), StatusOk);
     EXPECT_EQ(d[0], 2147483520);
@@ -210,8 +214,12 @@ std::vector<double> double_pool(tt::Rng& r, size_t n, double range)
     std::vector<double> v(n);
     for (auto& x : v) {
         switch (r.next() % 5) {
-        case 0: x = double(r.range(-40, 40)) * 0.5; break;
-        case 1: x = double(r.range(-2, 2)) + (r.next() % 2 ? range : -range); break;
+        case 0:
+            x = double(r.range(-40, 40)) * 0.5;
+            break;
+        case 1:
+            x = double(r.range(-2, 2)) + (r.next() % 2 ? range : -range);
+            break;
         default: {
             const double mag = std::ldexp(r.uniform(1.0, 2.0), int(r.range(-40, 70)));
             x = r.next() % 2 ? mag : -mag;
@@ -287,9 +295,15 @@ TEST(ConvertRound, Float64ToInt64)
     std::vector<double> pool(400);
     for (auto& x : pool) {
         switch (r.next() % 6) {
-        case 0: x = double(r.range(-40, 40)) * 0.5; break;
-        case 1: x = std::ldexp(double(r.range(-4, 4)) + 0.5, int(r.range(0, 30))); break;
-        case 2: x = (r.next() % 2 ? 1 : -1) * std::ldexp(1.0 - std::ldexp(double(r.range(0, 3)), -53), 63); break;
+        case 0:
+            x = double(r.range(-40, 40)) * 0.5;
+            break;
+        case 1:
+            x = std::ldexp(double(r.range(-4, 4)) + 0.5, int(r.range(0, 30)));
+            break;
+        case 2:
+            x = (r.next() % 2 ? 1 : -1) * std::ldexp(1.0 - std::ldexp(double(r.range(0, 3)), -53), 63);
+            break;
         default: {
             const double mag = std::ldexp(r.uniform(1.0, 2.0), int(r.range(-1100, 1100)));
             x = r.next() % 2 ? mag : -mag;
@@ -307,10 +321,11 @@ TEST(ConvertRound, Float64ToInt64)
     pool[8] = 2251799813685248.5; // 2^51 + 0.5, a tie
     pool[9] = -2251799813685249.5;
     for (int mode : kModes) {
-        for (int sf : {INT_MIN, -2000, -1100, -1074, -1023, -64, -63, -3, -1, 0, 1, 2, 52, 63, 64, 1022, 1023, 1075,
-                       2000, INT_MAX}) {
+        for (int sf : {INT_MIN, -2000, -1100, -1074, -1023, -64,  -63,  -3,   -1,   0,
+                       1,       2,     52,    63,    64,    1022, 1023, 1075, 2000, INT_MAX}) {
             auto call = [&](const void* s, void* d, int len) {
-                return tavsConvert_64f64s_Sfs(static_cast<const Tav64f*>(s), static_cast<Tav64s*>(d), len, mode, sf);
+                return tavsConvert_64f64s_Sfs(static_cast<const Tav64f*>(s), static_cast<Tav64s*>(d), len,
+                                              mode, sf);
             };
             auto ref = [&](double x) { return ref_64s(x, mode, sf); };
             ct::check_errors<Tav64f, Tav64s>(call, true);
@@ -348,10 +363,12 @@ TEST(ConvertRound, InPlace)
     const auto pf = ct::float_pool(r, 70, 2147483648.0f);
     for (int mode : {0, 1, 2}) {
         ct::in_place<Tav32f, Tav32s>(pf, [mode](const void* s, void* d, int len) {
-            return tavsConvert_32f32s_Sfs(static_cast<const Tav32f*>(s), static_cast<Tav32s*>(d), len, mode, -2);
+            return tavsConvert_32f32s_Sfs(static_cast<const Tav32f*>(s), static_cast<Tav32s*>(d), len, mode,
+                                          -2);
         });
         ct::in_place<Tav64f, Tav64s>(double_pool(r, 70, 1e18), [mode](const void* s, void* d, int len) {
-            return tavsConvert_64f64s_Sfs(static_cast<const Tav64f*>(s), static_cast<Tav64s*>(d), len, mode, 3);
+            return tavsConvert_64f64s_Sfs(static_cast<const Tav64f*>(s), static_cast<Tav64s*>(d), len, mode,
+                                          3);
         });
     }
 }
@@ -396,8 +413,8 @@ TEST(ConvertRound, Float64To32)
     ct::sweep<Tav64f, Tav32f>(pool, call, ref_64f32f);
     ct::bulk<Tav64f, Tav32f>(pool, call, ref_64f32f);
 
-    const double src[9] = {1e300, -1e300, std::numeric_limits<double>::infinity(), 1.0, 2.0, 3.0, 4.0, 5.0,
-                           std::numeric_limits<double>::quiet_NaN()};
+    const double src[9] = {1e300, -1e300, std::numeric_limits<double>::infinity(), 1.0, 2.0, 3.0,
+                           4.0,   5.0,    std::numeric_limits<double>::quiet_NaN()};
     float d[9];
     ASSERT_EQ(tavsConvert_64f32f(src, d, 9), StatusOk);
     EXPECT_EQ(d[0], 3.4028234663852886e38f);

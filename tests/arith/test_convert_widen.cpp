@@ -14,7 +14,9 @@ template <class S, class D, class Fn> void check_plain(Fn fn)
 {
     tt::Rng r(sizeof(S) * 31 + sizeof(D));
     auto pool = tt::random_vector<S>(r, 200);
-    auto call = [&](const void* s, void* d, int len) { return fn(static_cast<const S*>(s), static_cast<D*>(d), len); };
+    auto call = [&](const void* s, void* d, int len) {
+        return fn(static_cast<const S*>(s), static_cast<D*>(d), len);
+    };
     ct::check_errors<S, D>(call);
     ct::sweep<S, D>(pool, call, [](S v) { return D(v); });
     ct::bulk<S, D>(tt::random_vector<S>(r, 5000), call, [](S v) { return D(v); });
@@ -85,7 +87,8 @@ TEST(ConvertWiden, RoundingFollowsCaller)
     const Status st = tavsConvert_32s32f(s, f, 8);
     std::fesetround(old);
     ASSERT_EQ(st, StatusOk);
-    for (int i = 0; i < 7; ++i) EXPECT_EQ(f[i], 16777218.0f);
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(f[i], 16777218.0f);
     EXPECT_EQ(f[7], -16777216.0f);
     ASSERT_EQ(tavsConvert_32s32f(s, f, 8), StatusOk);
     EXPECT_EQ(f[0], 16777216.0f);
@@ -137,8 +140,8 @@ template <class S, class F, class Fn> void check_scaled(Fn fn)
 {
     tt::Rng r(sizeof(S) * 5 + sizeof(F));
     auto pool = tt::random_vector<S>(r, 200);
-    for (int sf : {-200, -130, -128, -127, -40, -17, -1, 0, 1, 3, 15, 31, 126, 127, 149, 150, 151, 1022, 1074, 1075,
-                   1100, INT_MAX, INT_MIN}) {
+    for (int sf : {-200, -130, -128, -127, -40, -17,  -1,   0,    1,    3,       15,     31,
+                   126,  127,  149,  150,  151, 1022, 1074, 1075, 1100, INT_MAX, INT_MIN}) {
         const F factor = std::ldexp(F(1), sf == INT_MIN ? 100000 : (sf == INT_MAX ? -100000 : -sf));
         auto call = [&](const void* s, void* d, int len) {
             return fn(static_cast<const S*>(s), static_cast<F*>(d), len, sf);

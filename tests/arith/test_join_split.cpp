@@ -38,12 +38,21 @@ std::vector<float> samples(tt::Rng& r, size_t n)
     std::vector<float> v(n);
     for (auto& x : v) {
         switch (r.next() % 6) {
-        case 0: x = float(r.range(-2, 2)) * 0.5f; break;
-        case 1: x = float(r.uniform(-1.3, 1.3)); break;
+        case 0:
+            x = float(r.range(-2, 2)) * 0.5f;
+            break;
+        case 1:
+            x = float(r.uniform(-1.3, 1.3));
+            break;
         // Values whose scaled form is a tie k + 0.5.
-        case 2: x = float((double(r.range(-32768, 32767)) + 1.0) / 32767.5); break;
-        case 3: x = std::nextafter(r.next() % 2 ? 1.0f : -1.0f, 0.0f); break;
-        default: x = float(r.uniform(-1.0, 1.0));
+        case 2:
+            x = float((double(r.range(-32768, 32767)) + 1.0) / 32767.5);
+            break;
+        case 3:
+            x = std::nextafter(r.next() % 2 ? 1.0f : -1.0f, 0.0f);
+            break;
+        default:
+            x = float(r.uniform(-1.0, 1.0));
         }
     }
     return v;
@@ -63,7 +72,8 @@ TEST(JoinSplit, JoinInterleavesAndScales)
             tt::Guarded<Tav16s> d16(size_t(nCh * len), 1);
             tt::Guarded<B3> d24(size_t(nCh * len), 3);
             ASSERT_EQ(tavsJoinScaled_32f16s_D2L(ptrs.data(), nCh, len, d16.data()), StatusOk);
-            ASSERT_EQ(tavsJoinScaled_32f24s_D2L(ptrs.data(), nCh, len, reinterpret_cast<Tav8u*>(d24.data())), StatusOk);
+            ASSERT_EQ(tavsJoinScaled_32f24s_D2L(ptrs.data(), nCh, len, reinterpret_cast<Tav8u*>(d24.data())),
+                      StatusOk);
             for (int i = 0; i < len; ++i)
                 for (int c = 0; c < nCh; ++c) {
                     const size_t k = size_t(i * nCh + c);
@@ -104,7 +114,8 @@ TEST(JoinSplit, SplitDeinterleavesAndScales)
         for (int len : {1, 3, 8, 31}) {
             auto s16 = tt::random_vector<Tav16s>(r, size_t(nCh * len));
             std::vector<B3> s24(size_t(nCh * len));
-            for (auto& e : s24) e = ct::make24(int64_t(r.next()));
+            for (auto& e : s24)
+                e = ct::make24(int64_t(r.next()));
             std::vector<tt::Guarded<Tav32f>> out16, out24;
             std::vector<Tav32f*> p16, p24;
             for (int c = 0; c < nCh; ++c) {
@@ -116,14 +127,16 @@ TEST(JoinSplit, SplitDeinterleavesAndScales)
                 p24.push_back(out24[size_t(c)].data());
             }
             ASSERT_EQ(tavsSplitScaled_16s32f_D2L(s16.data(), p16.data(), nCh, len), StatusOk);
-            ASSERT_EQ(tavsSplitScaled_24s32f_D2L(reinterpret_cast<const Tav8u*>(s24.data()), p24.data(), nCh, len),
-                      StatusOk);
+            ASSERT_EQ(
+                tavsSplitScaled_24s32f_D2L(reinterpret_cast<const Tav8u*>(s24.data()), p24.data(), nCh, len),
+                StatusOk);
             for (int c = 0; c < nCh; ++c) {
                 for (int i = 0; i < len; ++i) {
                     const size_t k = size_t(i * nCh + c);
                     const float a = ct::get<Tav32f>(p16[size_t(c)], size_t(i)), b = ref_split16(s16[k]);
                     ASSERT_EQ(ct::bits_of(a), ct::bits_of(b));
-                    const float e = ct::get<Tav32f>(p24[size_t(c)], size_t(i)), f = ref_split24(ct::as24s(s24[k]));
+                    const float e = ct::get<Tav32f>(p24[size_t(c)], size_t(i)),
+                                f = ref_split24(ct::as24s(s24[k]));
                     ASSERT_EQ(ct::bits_of(e), ct::bits_of(f));
                 }
                 EXPECT_TRUE(out16[size_t(c)].borders_intact());
@@ -144,13 +157,15 @@ TEST(JoinSplit, RoundTrip)
     EXPECT_NEAR(f[1], 1.0f, 1e-6f);
     EXPECT_NEAR(f[2], 1.5259022e-5f, 1e-12f);
     std::vector<Tav16s> all(65536), back(65536);
-    for (int i = 0; i < 65536; ++i) all[size_t(i)] = Tav16s(i - 32768);
+    for (int i = 0; i < 65536; ++i)
+        all[size_t(i)] = Tav16s(i - 32768);
     std::vector<float> mid(65536);
     Tav32f* m[1] = {mid.data()};
     const Tav32f* cm[1] = {mid.data()};
     ASSERT_EQ(tavsSplitScaled_16s32f_D2L(all.data(), m, 1, 65536), StatusOk);
     ASSERT_EQ(tavsJoinScaled_32f16s_D2L(cm, 1, 65536, back.data()), StatusOk);
-    for (int i = 0; i < 65536; ++i) ASSERT_EQ(back[size_t(i)], all[size_t(i)]);
+    for (int i = 0; i < 65536; ++i)
+        ASSERT_EQ(back[size_t(i)], all[size_t(i)]);
 }
 
 // The interleaved vector first, then both counts, then the channel array and
@@ -162,8 +177,12 @@ TEST(JoinSplit, CheckOrder)
     const Tav32f* srcHole[2] = {a, nullptr};
     tt::Guarded<Tav16s> d(8);
     tt::Guarded<B3> d3(8);
-    auto j16 = [&](const Tav32f* const* s, int n, int l, Tav16s* o) { return tavsJoinScaled_32f16s_D2L(s, n, l, o); };
-    auto j24 = [&](const Tav32f* const* s, int n, int l, Tav8u* o) { return tavsJoinScaled_32f24s_D2L(s, n, l, o); };
+    auto j16 = [&](const Tav32f* const* s, int n, int l, Tav16s* o) {
+        return tavsJoinScaled_32f16s_D2L(s, n, l, o);
+    };
+    auto j24 = [&](const Tav32f* const* s, int n, int l, Tav8u* o) {
+        return tavsJoinScaled_32f24s_D2L(s, n, l, o);
+    };
     Tav8u* d24 = reinterpret_cast<Tav8u*>(d3.data());
     EXPECT_EQ(j16(src, 2, 4, nullptr), ErrNullPtr);
     EXPECT_EQ(j16(nullptr, 0, 0, nullptr), ErrNullPtr);
