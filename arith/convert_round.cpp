@@ -17,11 +17,10 @@ using namespace tavs::cvt;
 
 namespace {
 
-inline __m128i load16(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
-
 // ---- 32f to 8s, 8u, 16s, 16u ------------------------------------------------
 
-// Narrows int32 lanes already within D's range and stores W of them.
+// Narrows int32 lanes with saturation and stores 16 bytes of results; the
+// 16u form needs its lanes within 0..65535 already.
 template <class D> inline void store_narrow(D* d, const __m128i* q)
 {
     if constexpr (std::is_same_v<D, Tav16s>) {
