@@ -1,0 +1,29 @@
+// The FFT's kernels by role: direct kernels of lengths 1 to 32, the radix-4
+// in-place kernel, the bit-reversal permutations and the scale pass, each
+// for interleaved and split data in 32f and 64f.
+#pragma once
+
+#include <cstdint>
+
+namespace tavs::fft {
+
+// Direct transform of 2^m points, m <= 5, natural order in and out. Every
+// input is read before any output is written, so src may equal dst.
+template <class S> void direct_interleaved(int m, bool inverse, bool scaled, S scale, const S* src, S* dst);
+template <class S>
+void direct_split(int m, bool inverse, bool scaled, S scale, const S* srcRe, const S* srcIm, S* dstRe, S* dstIm);
+
+// Radix-4 decimation in time, in place over bit-reversed input, with the
+// RadixFourTwiddles table of length N (N a power of two, N >= 4).
+template <class S, bool Inverse> void radix4_interleaved(S* d, int64_t N, const S* tw);
+template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw);
+
+// Bit reversal of N elements through the swap list of N: in place, or from
+// src into dst (src untouched, every element of dst written once).
+template <class E> void permute_in_place(E* a, const int32_t* list, int64_t N);
+template <class E> void permute_copy(const E* src, E* dst, const int32_t* list, int64_t N);
+
+// p[i] *= s for i < n.
+template <class S> void scale_values(S* p, int64_t n, S s);
+
+} // namespace tavs::fft
