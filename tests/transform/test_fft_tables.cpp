@@ -32,6 +32,13 @@ const std::vector<Kind>& kinds()
         {"C_64f", tavsFFTGetSize_C_64f, 26, [](int o, int) { return fs::complex_sizes(o, true); }},
         {"R_32f", tavsFFTGetSize_R_32f, 28, [](int o, int) { return fs::real_sizes(o, false); }},
         {"R_64f", tavsFFTGetSize_R_64f, 27, [](int o, int) { return fs::real_sizes(o, true); }},
+        {"C_16sc", tavsFFTGetSize_C_16sc, 27, [](int o, int h) { return fs::small_sizes(0, o, h); }},
+        {"C_16s", tavsFFTGetSize_C_16s, 27, [](int o, int h) { return fs::small_sizes(1, o, h); }},
+        {"R_16s", tavsFFTGetSize_R_16s, 28, [](int o, int h) { return fs::small_sizes(2, o, h); }},
+        {"C_32sc", tavsFFTGetSize_C_32sc, 26, [](int o, int) { return fs::wide_sizes(0, o); }},
+        {"C_32s", tavsFFTGetSize_C_32s, 26, [](int o, int) { return fs::wide_sizes(0, o); }},
+        {"R_32s", tavsFFTGetSize_R_32s, 27, [](int o, int) { return fs::wide_sizes(1, o); }},
+        {"R_16s32s", tavsFFTGetSize_R_16s32s, 28, [](int o, int) { return fs::wide_sizes(2, o); }},
     };
     return k;
 }
@@ -41,7 +48,7 @@ TEST(FFTGetSize, EveryKindOrderFlagAndHintMatchesTheFormulas)
     for (const Kind& k : kinds())
         for (int order = 0; order <= 30; ++order)
             for (int flag : {ScaleFwdByLen, ScaleInvByLen, ScaleBothBySqrtLen, ScaleNever})
-                for (int hint : {0, 1, 2}) {
+                for (int hint : {0, 1, 2, 99}) {
                     int spec = -1, init = -1, work = -1;
                     const Status st = k.fn(order, flag, hint, &spec, &init, &work);
                     if (order > k.limit) {
@@ -82,6 +89,23 @@ TEST(FFTGetSize, CheckOrder)
 TEST(FFTGetSize, DocumentedExamples)
 {
     int spec, init, work;
+    // Order 0 of the 16-bit kinds: a 136-byte record and no work.
+    ASSERT_EQ(tavsFFTGetSize_C_16s(0, ScaleNever, 0, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(spec, 136);
+    EXPECT_EQ(work, 0);
+    ASSERT_EQ(tavsFFTGetSize_C_16sc(0, ScaleNever, 2, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(spec, 136);
+    ASSERT_EQ(tavsFFTGetSize_R_16s(0, ScaleNever, 1, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(spec, 136);
+    // Order 8 with hint 0 is the integer path, order 9 the float path.
+    ASSERT_EQ(tavsFFTGetSize_C_16sc(8, ScaleNever, 0, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(work, 8 * 256 + 64);
+    ASSERT_EQ(tavsFFTGetSize_C_16sc(9, ScaleNever, 0, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(work, 8 * 512 + 64);
+    EXPECT_EQ(spec, fs::complex_sizes(9, false).spec + 192);
+    // Hint 99 (or 2) selects the float path at any order.
+    ASSERT_EQ(tavsFFTGetSize_C_16s(3, ScaleNever, 99, &spec, &init, &work), StatusOk);
+    EXPECT_EQ(spec, 208 + 192);
     ASSERT_EQ(tavsFFTGetSize_C_32fc(0, ScaleNever, 0, &spec, &init, &work), StatusOk);
     EXPECT_EQ(spec, 208);
     EXPECT_EQ(work, 0);
