@@ -18,6 +18,14 @@ void direct_split(int m, bool inverse, bool scaled, S scale, const S* srcRe, con
 template <class S, bool Inverse> void radix4_interleaved(S* d, int64_t N, const S* tw);
 template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw);
 
+// The interleaved kernel split in two: its first pass (stage one with the
+// span-8 or span-16 stage, by the parity of the order of L) fused with the
+// out-of-place bit reversal of all N values, and the stages after it. For
+// data made of kernels of length L (rows or blocks), permute_first_pass then
+// radix4_after_first on each piece equals permute_copy then radix4.
+template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, int64_t N, int64_t L, const S* tw);
+template <class S, bool Inverse> void radix4_after_first(S* d, int64_t N, const S* tw);
+
 // Bit reversal of N elements through the swap list of N: in place, or from
 // src into dst (src untouched, every element of dst written once).
 template <class E> void permute_in_place(E* a, const int32_t* list, int64_t N);

@@ -27,8 +27,17 @@ template <class S> struct Split {
     Split at(int64_t i) const { return {re + i, im + i}; }
 };
 
-template <class S, bool Inv> void radix4(Inter<S> v, int64_t n, const S* tw) { radix4_interleaved<S, Inv>(v.p, n, tw); }
-template <class S, bool Inv> void radix4(Split<S> v, int64_t n, const S* tw) { radix4_split<S, Inv>(v.re, v.im, n, tw); }
+// The kernel on a piece of the data; firstDone: its first pass already ran
+// (fused with the bit reversal), interleaved data only.
+template <class S, bool Inv> void radix4(Inter<S> v, int64_t n, const S* tw, bool firstDone)
+{
+    if (firstDone) radix4_after_first<S, Inv>(v.p, n, tw);
+    else radix4_interleaved<S, Inv>(v.p, n, tw);
+}
+template <class S, bool Inv> void radix4(Split<S> v, int64_t n, const S* tw, bool)
+{
+    radix4_split<S, Inv>(v.re, v.im, n, tw);
+}
 template <class S> void scale_view(Inter<S> v, int64_t n, S s) { scale_values(v.p, 2 * n, s); }
 template <class S> void scale_view(Split<S> v, int64_t n, S s)
 {
@@ -236,13 +245,14 @@ template <class S, bool Inv, class V> struct Large {
     bool scaled;
     S scale;
     S* work;
+    bool firstDone;
 
     // A complete transform of 2^m points in place on bit-reversed data.
     void row(V v, int m, int level) const
     {
         const int64_t n = int64_t(1) << m;
         if (m <= 10) {
-            radix4<S, Inv>(v, n, spec->radixFour);
+            radix4<S, Inv>(v, n, spec->radixFour, firstDone);
             if (scaled) scale_view(v, n, scale);
         } else if (first_factor_bits<S>(m) == 0) {
             blocked(v, m);
@@ -256,7 +266,7 @@ template <class S, bool Inv, class V> struct Large {
     {
         const int64_t L = int64_t(1) << m; // 2048 or 4096: a single chunk
         for (int64_t b = L - 1024; b >= 0; b -= 1024) {
-            radix4<S, Inv>(v.at(b), 1024, spec->radixFour);
+            radix4<S, Inv>(v.at(b), 1024, spec->radixFour, firstDone);
             if (scaled) scale_view(v.at(b), 1024, scale);
         }
         for (int64_t s = 1024; s < L; s *= 2) merge_pass<Inv>(v, L, s, spec->merge);
@@ -278,10 +288,18 @@ template <class S, bool Inv, class V> struct Large {
 };
 
 template <class S, bool Inv, class V>
-void run(const FloatSpec<S>* spec, int m, bool scaled, S scale, V v, unsigned char* work)
+void run(const FloatSpec<S>* spec, int m, bool scaled, S scale, V v, unsigned char* work, bool firstDone)
 {
-    Large<S, Inv, V> l{spec, scaled, scale, reinterpret_cast<S*>(work)};
+    Large<S, Inv, V> l{spec, scaled, scale, reinterpret_cast<S*>(work), firstDone};
     l.row(v, m, 0);
+}
+
+// Length of the innermost radix-4 kernel of order m: the rows of the last
+// level, or the 1024-point blocks of a blocked merge.
+template <class S> int64_t innermost_length(int m)
+{
+    while (m > 10 && first_factor_bits<S>(m) != 0) m -= first_factor_bits<S>(m);
+    return m > 10 ? 1024 : int64_t(1) << m;
 }
 
 template <class S> using Cplx = std::conditional_t<sizeof(S) == 4, Tav32fc, Tav64fc>;
@@ -298,10 +316,14 @@ void complex_interleaved(const FloatSpec<S>* spec, int m, bool inverse, bool sca
     }
     const int64_t N = int64_t(1) << m;
     using C = Cplx<S>;
-    if (src == dst) permute_in_place(reinterpret_cast<C*>(dst), spec->swapList, N);
-    else permute_copy(reinterpret_cast<const C*>(src), reinterpret_cast<C*>(dst), spec->swapList, N);
-    if (inverse) run<S, true>(spec, m, scaled, scale, Inter<S>{dst}, work);
-    else run<S, false>(spec, m, scaled, scale, Inter<S>{dst}, work);
+    // In place: the swap list. Out of place: the bit reversal fused with the
+    // kernel's first pass, which reads every block straight from src.
+    const bool fused = src != dst;
+    if (!fused) permute_in_place(reinterpret_cast<C*>(dst), spec->swapList, N);
+    else if (inverse) permute_first_pass<S, true>(src, dst, N, innermost_length<S>(m), spec->radixFour);
+    else permute_first_pass<S, false>(src, dst, N, innermost_length<S>(m), spec->radixFour);
+    if (inverse) run<S, true>(spec, m, scaled, scale, Inter<S>{dst}, work, fused);
+    else run<S, false>(spec, m, scaled, scale, Inter<S>{dst}, work, fused);
 }
 template void complex_interleaved<float>(const FloatSpec<float>*, int, bool, bool, float, const float*, float*,
                                          unsigned char*);
@@ -321,8 +343,8 @@ void complex_split(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S
     else permute_copy(srcRe, dstRe, spec->swapList, N);
     if (srcIm == dstIm) permute_in_place(dstIm, spec->swapList, N);
     else permute_copy(srcIm, dstIm, spec->swapList, N);
-    if (inverse) run<S, true>(spec, m, scaled, scale, Split<S>{dstRe, dstIm}, work);
-    else run<S, false>(spec, m, scaled, scale, Split<S>{dstRe, dstIm}, work);
+    if (inverse) run<S, true>(spec, m, scaled, scale, Split<S>{dstRe, dstIm}, work, false);
+    else run<S, false>(spec, m, scaled, scale, Split<S>{dstRe, dstIm}, work, false);
 }
 template void complex_split<float>(const FloatSpec<float>*, int, bool, bool, float, const float*, const float*,
                                    float*, float*, unsigned char*);

@@ -70,104 +70,184 @@ template <> void radix4_interleaved<float, true>(float*, int64_t, const float*);
 
 namespace {
 
-template <bool Inv> void radix4_32fc(float* d, int64_t N, const float* tw)
+// A twiddle ready for products: its real part in both lanes of each value,
+// its imaginary part with the sign of the product folded in, so that
+// x * w = x * wr + swap(x) * wi (conjugated w in the inverse direction).
+struct Tw32 {
+    __m128 wr, wi;
+};
+template <bool Inv> inline Tw32 prep(__m128 w)
 {
-    // Stage one: groups of four, no multiplications. In bit-reversed order a
-    // group holds (x0, x2, x1, x3) of its 4-point problem.
-    for (int64_t i = 0; i < N; i += 4) {
-        float* p = d + 2 * i;
-        const __m128 v0 = _mm_loadu_ps(p), v1 = _mm_loadu_ps(p + 4);
-        const __m128 u = _mm_movelh_ps(v0, v1); // [A, C]
-        const __m128 w = _mm_movehl_ps(v1, v0); // [B, D]
-        const __m128 s = _mm_add_ps(u, w);      // [A+B, C+D]
-        const __m128 df = _mm_sub_ps(u, w);     // [A-B, C-D]
-        const __m128 r = rot<Inv>(df);          // hi lane: -/+ i (C-D)
-        const __m128 lo = _mm_movelh_ps(s, df); // [A+B, A-B]
-        const __m128 hi = _mm_movehl_ps(r, s);  // [C+D, rot(C-D)]
-        _mm_storeu_ps(p, _mm_add_ps(lo, hi));
-        _mm_storeu_ps(p + 4, _mm_sub_ps(lo, hi));
-    }
-    int64_t span = 16;
-    if (N & 0xAAAAAAAAAAAAAAAAll) {
-        // Odd order: one radix-2 stage of span 8 with 1, W8, W8^2, W8^3.
+    return {_mm_shuffle_ps(w, w, _MM_SHUFFLE(2, 2, 0, 0)),
+            _mm_xor_ps(_mm_shuffle_ps(w, w, _MM_SHUFFLE(3, 3, 1, 1)), Inv ? sign_odd() : sign_even())};
+}
+inline __m128 mul(__m128 x, Tw32 w) { return _mm_add_ps(_mm_mul_ps(x, w.wr), _mm_mul_ps(swap_ri(x), w.wi)); }
+
+// Stage one on a group of four values held in two registers: (x0, x2, x1,
+// x3) of a 4-point problem in, its transform in natural order out.
+template <bool Inv> inline void group4(__m128& v0, __m128& v1)
+{
+    const __m128 u = _mm_movelh_ps(v0, v1); // [A, C]
+    const __m128 w = _mm_movehl_ps(v1, v0); // [B, D]
+    const __m128 s = _mm_add_ps(u, w);      // [A+B, C+D]
+    const __m128 df = _mm_sub_ps(u, w);     // [A-B, C-D]
+    const __m128 r = rot<Inv>(df);          // high lane: -/+ i (C-D)
+    const __m128 lo = _mm_movelh_ps(s, df); // [A+B, A-B]
+    const __m128 hi = _mm_movehl_ps(r, s);  // [C+D, rot(C-D)]
+    v0 = _mm_add_ps(lo, hi);
+    v1 = _mm_sub_ps(lo, hi);
+}
+
+// One radix-4 butterfly on two consecutive k: quarters a, b (twiddle W^2k),
+// c (W^k), d (W^3k) at p0 .. p3.
+template <bool Inv>
+inline void bfly_32(float* p0, float* p1, float* p2, float* p3, const Tw32& w1, const Tw32& w2, const Tw32& w3)
+{
+    const __m128 a = _mm_loadu_ps(p0);
+    const __m128 b = mul(_mm_loadu_ps(p1), w2);
+    const __m128 c = mul(_mm_loadu_ps(p2), w1);
+    const __m128 d = mul(_mm_loadu_ps(p3), w3);
+    __m128 x0, x1, x2, x3;
+    bfly4<Inv>(a, b, c, d, x0, x1, x2, x3);
+    _mm_storeu_ps(p0, x0);
+    _mm_storeu_ps(p1, x1);
+    _mm_storeu_ps(p2, x2);
+    _mm_storeu_ps(p3, x3);
+}
+
+// The first pass of the kernel over blocks of B values (B = 16 for an even
+// order: stage one and the span-16 stage; B = 8 for an odd order: stage one
+// and the radix-2 stage of span 8). load(i, j) gives values 2j, 2j+1 of
+// block i, so the same pass runs on data in place or straight from the
+// source through the bit reversal. L is the kernel's length, tw its table.
+inline int first_block(int64_t L) { return (L & 0xAAAAAAAAAAAAAAAAll) ? 8 : (L >= 16 ? 16 : 4); }
+
+template <bool Inv, class Load> void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load)
+{
+    const int B = first_block(L);
+    if (B == 8) {
         const float c = 0.70710677f;
-        const __m128 w01 = _mm_setr_ps(1.0f, 0.0f, c, -c);
-        const __m128 w23 = _mm_setr_ps(0.0f, -1.0f, -c, -c);
-        for (int64_t i = 0; i < N; i += 8) {
-            float* p = d + 2 * i;
-            const __m128 e0 = _mm_loadu_ps(p), e1 = _mm_loadu_ps(p + 4);
-            const __m128 o0 = cmul<Inv>(_mm_loadu_ps(p + 8), w01);
-            const __m128 o1 = cmul<Inv>(_mm_loadu_ps(p + 12), w23);
+        const Tw32 w01 = prep<Inv>(_mm_setr_ps(1.0f, 0.0f, c, -c));
+        const Tw32 w23 = prep<Inv>(_mm_setr_ps(0.0f, -1.0f, -c, -c));
+        for (int64_t i = 0; i < N / 8; ++i) {
+            float* p = d + 16 * i;
+            __m128 e0 = load(i, 0), e1 = load(i, 1), o0 = load(i, 2), o1 = load(i, 3);
+            group4<Inv>(e0, e1);
+            group4<Inv>(o0, o1);
+            o0 = mul(o0, w01);
+            o1 = mul(o1, w23);
             _mm_storeu_ps(p, _mm_add_ps(e0, o0));
             _mm_storeu_ps(p + 4, _mm_add_ps(e1, o1));
             _mm_storeu_ps(p + 8, _mm_sub_ps(e0, o0));
             _mm_storeu_ps(p + 12, _mm_sub_ps(e1, o1));
         }
-        span = 32;
-    }
-    const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
-    for (; span <= N; span *= 4) {
-        const int64_t q = span / 4;
-        const int64_t stride = 6 * (N / span); // floats between consecutive k
-        for (int64_t b = 0; b < N; b += span) {
-            float* p0 = d + 2 * b;
-            float* p1 = p0 + 2 * q;
-            float* p2 = p1 + 2 * q;
-            float* p3 = p2 + 2 * q;
-            for (int64_t k = 0; k < q; k += 2) {
-                const float* t0 = tw + k * stride;
-                const float* t1 = t0 + stride;
-                __m128 w1, w2, w3;
-                if (k == 0) {
-                    // The entry k = 0 is not read: its butterfly needs no product.
-                    w1 = _mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1));
-                    w2 = _mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1 + 2));
-                    w3 = _mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1 + 4));
-                } else {
-                    w1 = load2(t0, t1);
-                    w2 = load2(t0 + 2, t1 + 2);
-                    w3 = load2(t0 + 4, t1 + 4);
-                }
-                const __m128 a = _mm_loadu_ps(p0 + 2 * k);
-                const __m128 bb = cmul<Inv>(_mm_loadu_ps(p1 + 2 * k), w2);
-                const __m128 c = cmul<Inv>(_mm_loadu_ps(p2 + 2 * k), w1);
-                const __m128 dd = cmul<Inv>(_mm_loadu_ps(p3 + 2 * k), w3);
-                __m128 x0, x1, x2, x3;
-                bfly4<Inv>(a, bb, c, dd, x0, x1, x2, x3);
-                _mm_storeu_ps(p0 + 2 * k, x0);
-                _mm_storeu_ps(p1 + 2 * k, x1);
-                _mm_storeu_ps(p2 + 2 * k, x2);
-                _mm_storeu_ps(p3 + 2 * k, x3);
-            }
+    } else if (B == 16) {
+        const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
+        const int64_t stride = 6 * (L / 16);
+        auto pair = [&](int64_t k, int j) {
+            const float* t1 = tw + (k + 1) * stride + 2 * (j - 1);
+            if (k == 0) return prep<Inv>(_mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1)));
+            return prep<Inv>(load2(t1 - stride, t1));
+        };
+        const Tw32 a1 = pair(0, 1), a2 = pair(0, 2), a3 = pair(0, 3);
+        const Tw32 b1 = pair(2, 1), b2 = pair(2, 2), b3 = pair(2, 3);
+        for (int64_t i = 0; i < N / 16; ++i) {
+            float* p = d + 32 * i;
+            __m128 v[8];
+            for (int j = 0; j < 8; ++j) v[j] = load(i, j);
+            for (int g = 0; g < 4; ++g) group4<Inv>(v[2 * g], v[2 * g + 1]);
+            __m128 x0, x1, x2, x3;
+            bfly4<Inv>(v[0], mul(v[2], a2), mul(v[4], a1), mul(v[6], a3), x0, x1, x2, x3);
+            _mm_storeu_ps(p, x0);
+            _mm_storeu_ps(p + 8, x1);
+            _mm_storeu_ps(p + 16, x2);
+            _mm_storeu_ps(p + 24, x3);
+            bfly4<Inv>(v[1], mul(v[3], b2), mul(v[5], b1), mul(v[7], b3), x0, x1, x2, x3);
+            _mm_storeu_ps(p + 4, x0);
+            _mm_storeu_ps(p + 12, x1);
+            _mm_storeu_ps(p + 20, x2);
+            _mm_storeu_ps(p + 28, x3);
+        }
+    } else {
+        for (int64_t i = 0; i < N / 4; ++i) {
+            __m128 v0 = load(i, 0), v1 = load(i, 1);
+            group4<Inv>(v0, v1);
+            _mm_storeu_ps(d + 8 * i, v0);
+            _mm_storeu_ps(d + 8 * i + 4, v1);
         }
     }
 }
 
-template <bool Inv> void radix4_64fc(double* d, int64_t N, const double* tw)
+// The radix-4 stages after the first pass; the twiddles of a pair of k
+// serve every block of the stage, so k is the outer loop.
+template <bool Inv> void later_32(float* d, int64_t N, const float* tw)
 {
-    for (int64_t i = 0; i < N; i += 4) {
-        double* p = d + 2 * i;
-        const __m128d a = _mm_loadu_pd(p), b = _mm_loadu_pd(p + 2), c = _mm_loadu_pd(p + 4),
-                      e = _mm_loadu_pd(p + 6);
-        __m128d x0, x1, x2, x3;
-        bfly4<Inv>(a, b, c, e, x0, x1, x2, x3);
-        _mm_storeu_pd(p, x0);
-        _mm_storeu_pd(p + 2, x1);
-        _mm_storeu_pd(p + 4, x2);
-        _mm_storeu_pd(p + 6, x3);
+    const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
+    for (int64_t span = first_block(N) * 4; span <= N; span *= 4) {
+        const int64_t q = span / 4;
+        const int64_t stride = 6 * (N / span);
+        for (int64_t k = 0; k < q; k += 2) {
+            auto pair = [&](int j) {
+                const float* t1 = tw + (k + 1) * stride + 2 * (j - 1);
+                // The entry k = 0 is not read: that lane multiplies by exactly 1.
+                if (k == 0) return prep<Inv>(_mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1)));
+                return prep<Inv>(load2(t1 - stride, t1));
+            };
+            const Tw32 w1 = pair(1), w2 = pair(2), w3 = pair(3);
+            float* p0 = d + 2 * k;
+            for (int64_t b = 0; b < N; b += span, p0 += 2 * span)
+                bfly_32<Inv>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w1, w2, w3);
+        }
     }
-    int64_t span = 16;
-    if (N & 0xAAAAAAAAAAAAAAAAll) {
+}
+
+template <bool Inv> void radix4_32fc(float* d, int64_t N, const float* tw)
+{
+    const int64_t B = first_block(N);
+    first_pass_32<Inv>(d, N, N, tw, [d, B](int64_t i, int j) { return _mm_loadu_ps(d + 2 * i * B + 4 * j); });
+    later_32<Inv>(d, N, tw);
+}
+
+// ---- 64f --------------------------------------------------------------------
+
+struct Tw64 {
+    __m128d wr, wi;
+};
+template <bool Inv> inline Tw64 prep(__m128d w)
+{
+    return {_mm_unpacklo_pd(w, w), _mm_xor_pd(_mm_unpackhi_pd(w, w), Inv ? sign_hi() : sign_lo())};
+}
+inline __m128d mul(__m128d x, Tw64 w) { return _mm_add_pd(_mm_mul_pd(x, w.wr), _mm_mul_pd(swap_ri(x), w.wi)); }
+
+template <bool Inv>
+inline void bfly_64(double* p0, double* p1, double* p2, double* p3, const Tw64& w1, const Tw64& w2, const Tw64& w3)
+{
+    const __m128d a = _mm_loadu_pd(p0);
+    const __m128d b = mul(_mm_loadu_pd(p1), w2);
+    const __m128d c = mul(_mm_loadu_pd(p2), w1);
+    const __m128d e = mul(_mm_loadu_pd(p3), w3);
+    __m128d x0, x1, x2, x3;
+    bfly4<Inv>(a, b, c, e, x0, x1, x2, x3);
+    _mm_storeu_pd(p0, x0);
+    _mm_storeu_pd(p1, x1);
+    _mm_storeu_pd(p2, x2);
+    _mm_storeu_pd(p3, x3);
+}
+
+template <bool Inv, class Load> void first_pass_64(double* d, int64_t N, int64_t L, const double* tw, Load load)
+{
+    const int B = first_block(L);
+    if (B == 8) {
         const double c = 0.70710678118654752;
-        const __m128d w1 = _mm_setr_pd(c, -c), w3 = _mm_setr_pd(-c, -c);
-        for (int64_t i = 0; i < N; i += 8) {
-            double* p = d + 2 * i;
-            const __m128d e0 = _mm_loadu_pd(p), e1 = _mm_loadu_pd(p + 2), e2 = _mm_loadu_pd(p + 4),
-                          e3 = _mm_loadu_pd(p + 6);
-            const __m128d o0 = _mm_loadu_pd(p + 8);
-            const __m128d o1 = cmul<Inv>(_mm_loadu_pd(p + 10), w1);
-            const __m128d o2 = rot<Inv>(_mm_loadu_pd(p + 12));
-            const __m128d o3 = cmul<Inv>(_mm_loadu_pd(p + 14), w3);
+        const Tw64 w1 = prep<Inv>(_mm_setr_pd(c, -c)), w3 = prep<Inv>(_mm_setr_pd(-c, -c));
+        for (int64_t i = 0; i < N / 8; ++i) {
+            double* p = d + 16 * i;
+            __m128d e0, e1, e2, e3, o0, o1, o2, o3;
+            bfly4<Inv>(load(i, 0), load(i, 1), load(i, 2), load(i, 3), e0, e1, e2, e3);
+            bfly4<Inv>(load(i, 4), load(i, 5), load(i, 6), load(i, 7), o0, o1, o2, o3);
+            o1 = mul(o1, w1);
+            o2 = rot<Inv>(o2);
+            o3 = mul(o3, w3);
             _mm_storeu_pd(p, _mm_add_pd(e0, o0));
             _mm_storeu_pd(p + 2, _mm_add_pd(e1, o1));
             _mm_storeu_pd(p + 4, _mm_add_pd(e2, o2));
@@ -177,40 +257,87 @@ template <bool Inv> void radix4_64fc(double* d, int64_t N, const double* tw)
             _mm_storeu_pd(p + 12, _mm_sub_pd(e2, o2));
             _mm_storeu_pd(p + 14, _mm_sub_pd(e3, o3));
         }
-        span = 32;
-    }
-    for (; span <= N; span *= 4) {
-        const int64_t q = span / 4;
-        const int64_t stride = 6 * (N / span);
-        for (int64_t b = 0; b < N; b += span) {
-            double* p0 = d + 2 * b;
-            double* p1 = p0 + 2 * q;
-            double* p2 = p1 + 2 * q;
-            double* p3 = p2 + 2 * q;
-            {
+    } else if (B == 16) {
+        auto twid = [&](int64_t k, int j) { return prep<Inv>(_mm_load_pd(tw + k * 6 * (L / 16) + 2 * (j - 1))); };
+        const Tw64 w[4][3] = {{},
+                              {twid(1, 1), twid(1, 2), twid(1, 3)},
+                              {twid(2, 1), twid(2, 2), twid(2, 3)},
+                              {twid(3, 1), twid(3, 2), twid(3, 3)}};
+        for (int64_t i = 0; i < N / 16; ++i) {
+            double* p = d + 32 * i;
+            __m128d v[16];
+            for (int g = 0; g < 4; ++g)
+                bfly4<Inv>(load(i, 4 * g), load(i, 4 * g + 1), load(i, 4 * g + 2), load(i, 4 * g + 3), v[4 * g],
+                           v[4 * g + 1], v[4 * g + 2], v[4 * g + 3]);
+            for (int k = 0; k < 4; ++k) {
                 __m128d x0, x1, x2, x3;
-                bfly4<Inv>(_mm_loadu_pd(p0), _mm_loadu_pd(p1), _mm_loadu_pd(p2), _mm_loadu_pd(p3), x0, x1, x2, x3);
-                _mm_storeu_pd(p0, x0);
-                _mm_storeu_pd(p1, x1);
-                _mm_storeu_pd(p2, x2);
-                _mm_storeu_pd(p3, x3);
+                if (k == 0) bfly4<Inv>(v[0], v[4], v[8], v[12], x0, x1, x2, x3);
+                else
+                    bfly4<Inv>(v[k], mul(v[4 + k], w[k][1]), mul(v[8 + k], w[k][0]), mul(v[12 + k], w[k][2]), x0, x1,
+                               x2, x3);
+                _mm_storeu_pd(p + 2 * k, x0);
+                _mm_storeu_pd(p + 2 * k + 8, x1);
+                _mm_storeu_pd(p + 2 * k + 16, x2);
+                _mm_storeu_pd(p + 2 * k + 24, x3);
             }
-            for (int64_t k = 1; k < q; ++k) {
-                const double* t = tw + k * stride;
-                const __m128d a = _mm_loadu_pd(p0 + 2 * k);
-                const __m128d bb = cmul<Inv>(_mm_loadu_pd(p1 + 2 * k), _mm_load_pd(t + 2));
-                const __m128d c = cmul<Inv>(_mm_loadu_pd(p2 + 2 * k), _mm_load_pd(t));
-                const __m128d dd = cmul<Inv>(_mm_loadu_pd(p3 + 2 * k), _mm_load_pd(t + 4));
-                __m128d x0, x1, x2, x3;
-                bfly4<Inv>(a, bb, c, dd, x0, x1, x2, x3);
-                _mm_storeu_pd(p0 + 2 * k, x0);
-                _mm_storeu_pd(p1 + 2 * k, x1);
-                _mm_storeu_pd(p2 + 2 * k, x2);
-                _mm_storeu_pd(p3 + 2 * k, x3);
-            }
+        }
+    } else {
+        for (int64_t i = 0; i < N / 4; ++i) {
+            double* p = d + 8 * i;
+            __m128d x0, x1, x2, x3;
+            bfly4<Inv>(load(i, 0), load(i, 1), load(i, 2), load(i, 3), x0, x1, x2, x3);
+            _mm_storeu_pd(p, x0);
+            _mm_storeu_pd(p + 2, x1);
+            _mm_storeu_pd(p + 4, x2);
+            _mm_storeu_pd(p + 6, x3);
         }
     }
 }
+
+template <bool Inv> void later_64(double* d, int64_t N, const double* tw)
+{
+    for (int64_t span = first_block(N) * 4; span <= N; span *= 4) {
+        const int64_t q = span / 4;
+        for (int64_t b = 0; b < N; b += span) {
+            // k = 0 needs no product.
+            double* p0 = d + 2 * b;
+            __m128d x0, x1, x2, x3;
+            bfly4<Inv>(_mm_loadu_pd(p0), _mm_loadu_pd(p0 + 2 * q), _mm_loadu_pd(p0 + 4 * q), _mm_loadu_pd(p0 + 6 * q), x0,
+                       x1, x2, x3);
+            _mm_storeu_pd(p0, x0);
+            _mm_storeu_pd(p0 + 2 * q, x1);
+            _mm_storeu_pd(p0 + 4 * q, x2);
+            _mm_storeu_pd(p0 + 6 * q, x3);
+        }
+        const int64_t stride = 6 * (N / span);
+        for (int64_t k = 1; k < q; ++k) {
+            const double* t = tw + k * stride;
+            const Tw64 w1 = prep<Inv>(_mm_load_pd(t)), w2 = prep<Inv>(_mm_load_pd(t + 2)), w3 = prep<Inv>(_mm_load_pd(t + 4));
+            double* p0 = d + 2 * k;
+            for (int64_t b = 0; b < N; b += span, p0 += 2 * span)
+                bfly_64<Inv>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w1, w2, w3);
+        }
+    }
+}
+
+template <bool Inv> void radix4_64fc(double* d, int64_t N, const double* tw)
+{
+    const int64_t B = first_block(N);
+    first_pass_64<Inv>(d, N, N, tw, [d, B](int64_t i, int j) { return _mm_loadu_pd(d + 2 * i * B + 2 * j); });
+    later_64<Inv>(d, N, tw);
+}
+
+// Bit reversal of the low bits of v.
+inline int64_t reverse_bits(int64_t v, int bits)
+{
+    int64_t r = 0;
+    for (int b = 0; b < bits; ++b, v >>= 1) r = (r << 1) | (v & 1);
+    return r;
+}
+
+constexpr int8_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
+constexpr int8_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
+constexpr int8_t kRev4[4] = {0, 2, 1, 3};
 
 // ---- radix-4, split arrays (scalar; the compiler keeps it in registers) ----
 
@@ -294,6 +421,40 @@ template <> void radix4_interleaved<double, true>(double* d, int64_t N, const do
 {
     radix4_64fc<true>(d, N, tw);
 }
+
+template <> void radix4_after_first<float, false>(float* d, int64_t N, const float* tw) { later_32<false>(d, N, tw); }
+template <> void radix4_after_first<float, true>(float* d, int64_t N, const float* tw) { later_32<true>(d, N, tw); }
+template <> void radix4_after_first<double, false>(double* d, int64_t N, const double* tw) { later_64<false>(d, N, tw); }
+template <> void radix4_after_first<double, true>(double* d, int64_t N, const double* tw) { later_64<true>(d, N, tw); }
+
+// Block i of dst holds src[rev(i * B + t)] = src[rev_B(t) * (N / B) + rev(i)]:
+// each block is read straight from the source and goes through the first
+// pass on its way to dst.
+template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, int64_t N, int64_t L, const S* tw)
+{
+    const int B = first_block(L);
+    const int8_t* rb = B == 16 ? kRev16 : B == 8 ? kRev8 : kRev4;
+    int bits = 0;
+    while ((int64_t(1) << bits) < N / B) ++bits;
+    const int64_t step = N / B;
+    if constexpr (sizeof(S) == 4) {
+        int64_t lastI = -1, base = 0;
+        first_pass_32<Inverse>(dst, N, L, tw, [&](int64_t i, int j) {
+            if (i != lastI) lastI = i, base = reverse_bits(i, bits);
+            return load2(src + 2 * (rb[2 * j] * step + base), src + 2 * (rb[2 * j + 1] * step + base));
+        });
+    } else {
+        int64_t lastI = -1, base = 0;
+        first_pass_64<Inverse>(dst, N, L, tw, [&](int64_t i, int j) {
+            if (i != lastI) lastI = i, base = reverse_bits(i, bits);
+            return _mm_loadu_pd(src + 2 * (rb[j] * step + base));
+        });
+    }
+}
+template void permute_first_pass<float, false>(const float*, float*, int64_t, int64_t, const float*);
+template void permute_first_pass<float, true>(const float*, float*, int64_t, int64_t, const float*);
+template void permute_first_pass<double, false>(const double*, double*, int64_t, int64_t, const double*);
+template void permute_first_pass<double, true>(const double*, double*, int64_t, int64_t, const double*);
 
 template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw)
 {
