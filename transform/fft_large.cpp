@@ -70,7 +70,7 @@ template <bool Inv> inline __m128 cmul(__m128 x, __m128 w)
 template <bool Inv> inline __m128 rot(__m128 x) { return _mm_xor_ps(swap_ri(x), Inv ? sgn_even() : sgn_odd()); }
 inline __m128 load2(const float* a, const float* b)
 {
-    return _mm_loadh_pi(_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(a))),
+    return _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(a))),
                         reinterpret_cast<const __m64*>(b));
 }
 inline __m128d swap_ri(__m128d x) { return _mm_shuffle_pd(x, x, 1); }

@@ -31,7 +31,7 @@ template <bool Inv> inline __m128 rot(__m128 x) { return _mm_xor_ps(swap_ri(x), 
 
 inline __m128 load2(const float* a, const float* b)
 {
-    return _mm_loadh_pi(_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(a))),
+    return _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(a))),
                         reinterpret_cast<const __m64*>(b));
 }
 
