@@ -120,9 +120,15 @@ inline void bfly_32(float* p0, float* p1, float* p2, float* p3, const Tw32& w1, 
 // and the radix-2 stage of span 8). load(i, j) gives values 2j, 2j+1 of
 // block i, so the same pass runs on data in place or straight from the
 // source through the bit reversal. L is the kernel's length, tw its table.
+// Block order of the first pass: blocks in place, or (fused with the bit
+// reversal) the block that a running source index feeds.
+struct Natural {
+    int64_t operator()(int64_t i) const { return i; }
+};
+
 inline int first_block(int64_t L) { return (L & 0xAAAAAAAAAAAAAAAAll) ? 8 : (L >= 16 ? 16 : 4); }
 
-template <bool Inv, class Load> void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load)
+template <bool Inv, class Load, class Order = Natural> void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load, Order order = Order())
 {
     const int B = first_block(L);
     if (B == 8) {
@@ -130,7 +136,7 @@ template <bool Inv, class Load> void first_pass_32(float* d, int64_t N, int64_t 
         const Tw32 w01 = prep<Inv>(_mm_setr_ps(1.0f, 0.0f, c, -c));
         const Tw32 w23 = prep<Inv>(_mm_setr_ps(0.0f, -1.0f, -c, -c));
         for (int64_t i = 0; i < N / 8; ++i) {
-            float* p = d + 16 * i;
+            float* p = d + 16 * order(i);
             __m128 e0 = load(i, 0), e1 = load(i, 1), o0 = load(i, 2), o1 = load(i, 3);
             group4<Inv>(e0, e1);
             group4<Inv>(o0, o1);
@@ -152,7 +158,7 @@ template <bool Inv, class Load> void first_pass_32(float* d, int64_t N, int64_t 
         const Tw32 a1 = pair(0, 1), a2 = pair(0, 2), a3 = pair(0, 3);
         const Tw32 b1 = pair(2, 1), b2 = pair(2, 2), b3 = pair(2, 3);
         for (int64_t i = 0; i < N / 16; ++i) {
-            float* p = d + 32 * i;
+            float* p = d + 32 * order(i);
             __m128 v[8];
             for (int j = 0; j < 8; ++j) v[j] = load(i, j);
             for (int g = 0; g < 4; ++g) group4<Inv>(v[2 * g], v[2 * g + 1]);
@@ -172,8 +178,9 @@ template <bool Inv, class Load> void first_pass_32(float* d, int64_t N, int64_t 
         for (int64_t i = 0; i < N / 4; ++i) {
             __m128 v0 = load(i, 0), v1 = load(i, 1);
             group4<Inv>(v0, v1);
-            _mm_storeu_ps(d + 8 * i, v0);
-            _mm_storeu_ps(d + 8 * i + 4, v1);
+            float* p = d + 8 * order(i);
+            _mm_storeu_ps(p, v0);
+            _mm_storeu_ps(p + 4, v1);
         }
     }
 }
@@ -234,14 +241,14 @@ inline void bfly_64(double* p0, double* p1, double* p2, double* p3, const Tw64& 
     _mm_storeu_pd(p3, x3);
 }
 
-template <bool Inv, class Load> void first_pass_64(double* d, int64_t N, int64_t L, const double* tw, Load load)
+template <bool Inv, class Load, class Order = Natural> void first_pass_64(double* d, int64_t N, int64_t L, const double* tw, Load load, Order order = Order())
 {
     const int B = first_block(L);
     if (B == 8) {
         const double c = 0.70710678118654752;
         const Tw64 w1 = prep<Inv>(_mm_setr_pd(c, -c)), w3 = prep<Inv>(_mm_setr_pd(-c, -c));
         for (int64_t i = 0; i < N / 8; ++i) {
-            double* p = d + 16 * i;
+            double* p = d + 16 * order(i);
             __m128d e0, e1, e2, e3, o0, o1, o2, o3;
             bfly4<Inv>(load(i, 0), load(i, 1), load(i, 2), load(i, 3), e0, e1, e2, e3);
             bfly4<Inv>(load(i, 4), load(i, 5), load(i, 6), load(i, 7), o0, o1, o2, o3);
@@ -264,7 +271,7 @@ template <bool Inv, class Load> void first_pass_64(double* d, int64_t N, int64_t
                               {twid(2, 1), twid(2, 2), twid(2, 3)},
                               {twid(3, 1), twid(3, 2), twid(3, 3)}};
         for (int64_t i = 0; i < N / 16; ++i) {
-            double* p = d + 32 * i;
+            double* p = d + 32 * order(i);
             __m128d v[16];
             for (int g = 0; g < 4; ++g)
                 bfly4<Inv>(load(i, 4 * g), load(i, 4 * g + 1), load(i, 4 * g + 2), load(i, 4 * g + 3), v[4 * g],
@@ -283,7 +290,7 @@ template <bool Inv, class Load> void first_pass_64(double* d, int64_t N, int64_t
         }
     } else {
         for (int64_t i = 0; i < N / 4; ++i) {
-            double* p = d + 8 * i;
+            double* p = d + 8 * order(i);
             __m128d x0, x1, x2, x3;
             bfly4<Inv>(load(i, 0), load(i, 1), load(i, 2), load(i, 3), x0, x1, x2, x3);
             _mm_storeu_pd(p, x0);
@@ -325,14 +332,6 @@ template <bool Inv> void radix4_64fc(double* d, int64_t N, const double* tw)
     const int64_t B = first_block(N);
     first_pass_64<Inv>(d, N, N, tw, [d, B](int64_t i, int j) { return _mm_loadu_pd(d + 2 * i * B + 2 * j); });
     later_64<Inv>(d, N, tw);
-}
-
-// Bit reversal of the low bits of v.
-inline int64_t reverse_bits(int64_t v, int bits)
-{
-    int64_t r = 0;
-    for (int b = 0; b < bits; ++b, v >>= 1) r = (r << 1) | (v & 1);
-    return r;
 }
 
 constexpr int8_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
@@ -434,21 +433,34 @@ template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, i
 {
     const int B = first_block(L);
     const int8_t* rb = B == 16 ? kRev16 : B == 8 ? kRev8 : kRev4;
-    int bits = 0;
-    while ((int64_t(1) << bits) < N / B) ++bits;
     const int64_t step = N / B;
+    // The source index j runs in natural order, so the B streams read
+    // consecutive addresses; block rev(j) of dst receives the result.
+    struct Reversed {
+        int64_t half;
+        mutable int64_t last = -1, r = 0;
+        int64_t operator()(int64_t j) const
+        {
+            if (j == 0) r = 0;
+            else if (j != last) {
+                int64_t m = half;
+                while (r & m) r ^= m, m >>= 1;
+                r |= m;
+            }
+            last = j;
+            return r;
+        }
+    };
+    const Reversed order{step / 2};
     if constexpr (sizeof(S) == 4) {
-        int64_t lastI = -1, base = 0;
-        first_pass_32<Inverse>(dst, N, L, tw, [&](int64_t i, int j) {
-            if (i != lastI) lastI = i, base = reverse_bits(i, bits);
-            return load2(src + 2 * (rb[2 * j] * step + base), src + 2 * (rb[2 * j + 1] * step + base));
-        });
+        first_pass_32<Inverse>(dst, N, L, tw,
+                               [&](int64_t j, int t) {
+                                   return load2(src + 2 * (rb[2 * t] * step + j), src + 2 * (rb[2 * t + 1] * step + j));
+                               },
+                               order);
     } else {
-        int64_t lastI = -1, base = 0;
-        first_pass_64<Inverse>(dst, N, L, tw, [&](int64_t i, int j) {
-            if (i != lastI) lastI = i, base = reverse_bits(i, bits);
-            return _mm_loadu_pd(src + 2 * (rb[j] * step + base));
-        });
+        first_pass_64<Inverse>(dst, N, L, tw, [&](int64_t j, int t) { return _mm_loadu_pd(src + 2 * (rb[t] * step + j)); },
+                               order);
     }
 }
 template void permute_first_pass<float, false>(const float*, float*, int64_t, int64_t, const float*);
