@@ -18,6 +18,10 @@ void direct_split(int m, bool inverse, bool scaled, S scale, const S* srcRe, con
 template <class S, bool Inverse> void radix4_interleaved(S* d, int64_t N, const S* tw);
 template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw);
 
+// Four transforms of length R side by side: d holds R rows of four complex
+// values (64-byte aligned), column j of the rows being transform j.
+template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw);
+
 // The interleaved kernel split in two: its first pass (stage one with the
 // span-8 or span-16 stage, by the parity of the order of L) fused with the
 // out-of-place bit reversal of all N values, and the stages after it. For

@@ -181,27 +181,22 @@ template <bool Inv, class S> void merge_pass(Split<S> v, int64_t L, int64_t s, c
 // ---- column gather and scatter ------------------------------------------------
 
 // Four columns c .. c+3 of R rows of length M, each value times its column
-// twiddle, into four interleaved arrays of R values (w[j] = work + 2Rj).
+// twiddle, into R rows of four values in the work buffer; the column
+// transforms then run side by side on those rows.
 template <bool Inv> void gather(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* ct, float* w)
 {
-    float *w0 = w, *w1 = w + 2 * R, *w2 = w + 4 * R, *w3 = w + 6 * R;
     for (int64_t r = 0; r < R; ++r) {
         const float* row = v.p + 2 * (r * M + c);
-        const __m128 y01 = cmul<Inv>(_mm_loadu_ps(row), _mm_load_ps(ct + 8 * r));
-        const __m128 y23 = cmul<Inv>(_mm_loadu_ps(row + 4), _mm_load_ps(ct + 8 * r + 4));
-        _mm_storel_pi(reinterpret_cast<__m64*>(w0 + 2 * r), y01);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(w1 + 2 * r), y01);
-        _mm_storel_pi(reinterpret_cast<__m64*>(w2 + 2 * r), y23);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(w3 + 2 * r), y23);
+        _mm_store_ps(w + 8 * r, cmul<Inv>(_mm_loadu_ps(row), _mm_load_ps(ct + 8 * r)));
+        _mm_store_ps(w + 8 * r + 4, cmul<Inv>(_mm_loadu_ps(row + 4), _mm_load_ps(ct + 8 * r + 4)));
     }
 }
 void scatter(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* w)
 {
-    const float *w0 = w, *w1 = w + 2 * R, *w2 = w + 4 * R, *w3 = w + 6 * R;
     for (int64_t q = 0; q < R; ++q) {
         float* row = v.p + 2 * (q * M + c);
-        _mm_storeu_ps(row, load2(w0 + 2 * q, w1 + 2 * q));
-        _mm_storeu_ps(row + 4, load2(w2 + 2 * q, w3 + 2 * q));
+        _mm_storeu_ps(row, _mm_load_ps(w + 8 * q));
+        _mm_storeu_ps(row + 4, _mm_load_ps(w + 8 * q + 4));
     }
 }
 template <bool Inv> void gather(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* ct, double* w)
@@ -209,23 +204,23 @@ template <bool Inv> void gather(Inter<double> v, int64_t R, int64_t M, int64_t c
     for (int64_t r = 0; r < R; ++r) {
         const double* row = v.p + 2 * (r * M + c);
         for (int j = 0; j < 4; ++j)
-            _mm_store_pd(w + 2 * (j * R + r), cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
+            _mm_store_pd(w + 8 * r + 2 * j, cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
     }
 }
 void scatter(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* w)
 {
     for (int64_t q = 0; q < R; ++q) {
         double* row = v.p + 2 * (q * M + c);
-        for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 2 * (j * R + q)));
+        for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 8 * q + 2 * j));
     }
 }
+// Split data: the gather interleaves re and im into the same rows.
 template <bool Inv, class S> void gather(Split<S> v, int64_t R, int64_t M, int64_t c, const S* ct, S* w)
 {
     for (int64_t r = 0; r < R; ++r)
         for (int j = 0; j < 4; ++j) {
             const int64_t i = r * M + c + j;
-            cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], w[2 * (j * R + r)],
-                       w[2 * (j * R + r) + 1]);
+            cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], w[8 * r + 2 * j], w[8 * r + 2 * j + 1]);
         }
 }
 template <class S> void scatter(Split<S> v, int64_t R, int64_t M, int64_t c, const S* w)
@@ -233,8 +228,8 @@ template <class S> void scatter(Split<S> v, int64_t R, int64_t M, int64_t c, con
     for (int64_t q = 0; q < R; ++q)
         for (int j = 0; j < 4; ++j) {
             const int64_t i = q * M + c + j;
-            v.re[i] = w[2 * (j * R + q)];
-            v.im[i] = w[2 * (j * R + q) + 1];
+            v.re[i] = w[8 * q + 2 * j];
+            v.im[i] = w[8 * q + 2 * j + 1];
         }
 }
 
@@ -281,7 +276,7 @@ template <class S, bool Inv, class V> struct Large {
         const S* r4 = spec->levelRadixFour[level];
         for (int64_t c = 0; c < M; c += 4) {
             gather<Inv>(v, R, M, c, cols + (c / 4) * R * 8, work);
-            for (int j = 0; j < 4; ++j) radix4_interleaved<S, Inv>(work + 2 * R * j, R, r4);
+            radix4_rows4<S, Inv>(work, R, r4);
             scatter(v, R, M, c, work);
         }
     }
