@@ -452,6 +452,102 @@ template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
 
 // ---- radix-4, split arrays (scalar; the compiler keeps it in registers) ----
 
+// ---- radix-4 stages on split arrays: SSE2 lanes run across k ----------------
+
+// Lanes of float (4) or double (2) values with the few operations the
+// split stages need.
+inline __m128 vadd(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+inline __m128 vsub(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
+inline __m128 vmul(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
+inline __m128d vadd(__m128d a, __m128d b) { return _mm_add_pd(a, b); }
+inline __m128d vsub(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
+inline __m128d vmul(__m128d a, __m128d b) { return _mm_mul_pd(a, b); }
+inline __m128 vload(const float* p) { return _mm_loadu_ps(p); }
+inline __m128d vload(const double* p) { return _mm_loadu_pd(p); }
+inline void vstore(float* p, __m128 v) { _mm_storeu_ps(p, v); }
+inline void vstore(double* p, __m128d v) { _mm_storeu_pd(p, v); }
+
+template <class S> struct Lanes;
+template <> struct Lanes<float> {
+    using V = __m128;
+    static constexpr int n = 4;
+    // Real and imaginary parts of the table entries k .. k+3, stride apart
+    // (in floats); the entry k = 0, when asked for, is replaced by 1.
+    static void twiddle(const float* t, int64_t stride, bool first, V& wr, V& wi)
+    {
+        const __m128 c01 = load2(first ? t + stride : t, t + stride);
+        const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
+        wr = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(2, 0, 2, 0));
+        wi = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(3, 1, 3, 1));
+        if (first) {
+            wr = _mm_move_ss(wr, _mm_set_ss(1.0f));
+            wi = _mm_move_ss(wi, _mm_setzero_ps());
+        }
+    }
+    static V neg(V v) { return _mm_xor_ps(v, _mm_set1_ps(-0.0f)); }
+};
+template <> struct Lanes<double> {
+    using V = __m128d;
+    static constexpr int n = 2;
+    static void twiddle(const double* t, int64_t stride, bool first, V& wr, V& wi)
+    {
+        const __m128d c0 = first ? _mm_setr_pd(1.0, 0.0) : _mm_load_pd(t);
+        const __m128d c1 = _mm_load_pd(t + stride);
+        wr = _mm_unpacklo_pd(c0, c1);
+        wi = _mm_unpackhi_pd(c0, c1);
+    }
+    static V neg(V v) { return _mm_xor_pd(v, _mm_set1_pd(-0.0)); }
+};
+
+// The stages of spans from `span` up to N, four (two) values of k at once.
+template <bool Inv, class S> void split_stages(S* re, S* im, int64_t N, const S* tw, int64_t span)
+{
+    using L = Lanes<S>;
+    using V = typename L::V;
+    for (; span <= N; span *= 4) {
+        const int64_t q = span / 4, stride = 6 * (N / span);
+        for (int64_t k = 0; k < q; k += L::n) {
+            V w[3][2];
+            for (int j = 0; j < 3; ++j) {
+                L::twiddle(tw + k * stride + 2 * j, stride, k == 0, w[j][0], w[j][1]);
+                if (Inv) w[j][1] = L::neg(w[j][1]); // conjugate
+            }
+            for (int64_t b = k; b < N; b += span) {
+                S *r0 = re + b, *i0 = im + b;
+                const V ar = vload(r0), ai = vload(i0);
+                V x[3][2]; // quarters 1, 2, 3 times W^2k, W^k, W^3k
+                const int tj[3] = {1, 0, 2};
+                for (int u = 0; u < 3; ++u) {
+                    const V xr = vload(r0 + (u + 1) * q), xi = vload(i0 + (u + 1) * q);
+                    const V* wv = w[tj[u]];
+                    x[u][0] = vsub(vmul(xr, wv[0]), vmul(xi, wv[1]));
+                    x[u][1] = vadd(vmul(xr, wv[1]), vmul(xi, wv[0]));
+                }
+                const V t0r = vadd(ar, x[0][0]), t0i = vadd(ai, x[0][1]);
+                const V t1r = vsub(ar, x[0][0]), t1i = vsub(ai, x[0][1]);
+                const V t2r = vadd(x[1][0], x[2][0]), t2i = vadd(x[1][1], x[2][1]);
+                const V t3r = vsub(x[1][0], x[2][0]), t3i = vsub(x[1][1], x[2][1]);
+                vstore(r0, vadd(t0r, t2r));
+                vstore(i0, vadd(t0i, t2i));
+                vstore(r0 + 2 * q, vsub(t0r, t2r));
+                vstore(i0 + 2 * q, vsub(t0i, t2i));
+                // X1 = t1 - i t3 and X3 = t1 + i t3 forward; the other way inverse.
+                if (Inv) {
+                    vstore(r0 + q, vsub(t1r, t3i));
+                    vstore(i0 + q, vadd(t1i, t3r));
+                    vstore(r0 + 3 * q, vadd(t1r, t3i));
+                    vstore(i0 + 3 * q, vsub(t1i, t3r));
+                } else {
+                    vstore(r0 + q, vadd(t1r, t3i));
+                    vstore(i0 + q, vsub(t1i, t3r));
+                    vstore(r0 + 3 * q, vsub(t1r, t3i));
+                    vstore(i0 + 3 * q, vadd(t1i, t3r));
+                }
+            }
+        }
+    }
+}
+
 template <class S, bool Inv> void radix4_split_impl(S* re, S* im, int64_t N, const S* tw)
 {
     auto rotate = [](S& xr, S& xi) { // -i x forward, +i x inverse
@@ -502,22 +598,7 @@ template <class S, bool Inv> void radix4_split_impl(S* re, S* im, int64_t N, con
             }
         span = 32;
     }
-    for (; span <= N; span *= 4) {
-        const int64_t q = span / 4;
-        const int64_t stride = 6 * (N / span);
-        for (int64_t b = 0; b < N; b += span) {
-            bfly(b, b + q, b + 2 * q, b + 3 * q, re[b + q], im[b + q], re[b + 2 * q], im[b + 2 * q], re[b + 3 * q],
-                 im[b + 3 * q]);
-            for (int64_t k = 1; k < q; ++k) {
-                const S* t = tw + k * stride;
-                S br, bi, cr, ci, dr, di;
-                mul(re[b + q + k], im[b + q + k], t + 2, br, bi);
-                mul(re[b + 2 * q + k], im[b + 2 * q + k], t, cr, ci);
-                mul(re[b + 3 * q + k], im[b + 3 * q + k], t + 4, dr, di);
-                bfly(b + k, b + q + k, b + 2 * q + k, b + 3 * q + k, br, bi, cr, ci, dr, di);
-            }
-        }
-    }
+    split_stages<Inv>(re, im, N, tw, span);
 }
 
 } // namespace
@@ -621,6 +702,24 @@ template <class E> void permute_in_place(E* a, const int32_t* list, int64_t N)
 
 template <class E> void permute_copy(const E* src, E* dst, const int32_t* list, int64_t N)
 {
+    if (N >= 16) {
+        // By blocks of 16: block rev(j) of dst is src[rev16(t) * N/16 + j],
+        // t = 0 .. 15, with j running in order, so the reads follow sixteen
+        // ascending streams and each block is written whole. This writes
+        // every element once, as the walk of the list does.
+        const int64_t step = N / 16, half = step / 2;
+        int64_t r = 0;
+        for (int64_t j = 0; j < step; ++j) {
+            if (j > 0) {
+                int64_t m = half;
+                while (r & m) r ^= m, m >>= 1;
+                r |= m;
+            }
+            E* d = dst + 16 * r;
+            for (int t = 0; t < 16; ++t) d[t] = src[kRev16[t] * step + j];
+        }
+        return;
+    }
     if (N < 8) {
         dst[0] = src[0];
         dst[N - 1] = src[N - 1];
