@@ -6,12 +6,15 @@
 #include "internal/body.h"
 #include "internal/fft.h"
 #include "internal/fft_kernels.h"
+#include "internal/fft_simd.h"
 
 #include <emmintrin.h>
 
 #include <type_traits>
 
 namespace tavs::fft {
+
+using namespace simd;
 
 namespace {
 
@@ -57,32 +60,6 @@ template <bool Inv, class S> inline void cmul1(S xr, S xi, S wr, S wi, S& yr, S&
 // ---- merge pass: blocks of span s joined into blocks of 2s ------------------
 
 constexpr int64_t kStrip32 = 256, kStrip64 = 128;
-
-inline __m128 swap_ri(__m128 x) { return _mm_shuffle_ps(x, x, _MM_SHUFFLE(2, 3, 0, 1)); }
-inline __m128 sgn_even() { return _mm_castsi128_ps(_mm_set_epi32(0, int(0x80000000u), 0, int(0x80000000u))); }
-inline __m128 sgn_odd() { return _mm_castsi128_ps(_mm_set_epi32(int(0x80000000u), 0, int(0x80000000u), 0)); }
-template <bool Inv> inline __m128 cmul(__m128 x, __m128 w)
-{
-    const __m128 wr = _mm_shuffle_ps(w, w, _MM_SHUFFLE(2, 2, 0, 0));
-    const __m128 wi = _mm_shuffle_ps(w, w, _MM_SHUFFLE(3, 3, 1, 1));
-    return _mm_add_ps(_mm_mul_ps(x, wr), _mm_xor_ps(_mm_mul_ps(swap_ri(x), wi), Inv ? sgn_odd() : sgn_even()));
-}
-template <bool Inv> inline __m128 rot(__m128 x) { return _mm_xor_ps(swap_ri(x), Inv ? sgn_even() : sgn_odd()); }
-inline __m128 load2(const float* a, const float* b)
-{
-    return _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(a))),
-                        reinterpret_cast<const __m64*>(b));
-}
-inline __m128d swap_ri(__m128d x) { return _mm_shuffle_pd(x, x, 1); }
-inline __m128d sgn_lo() { return _mm_castsi128_pd(_mm_set_epi64x(0, int64_t(0x8000000000000000ull))); }
-inline __m128d sgn_hi() { return _mm_castsi128_pd(_mm_set_epi64x(int64_t(0x8000000000000000ull), 0)); }
-template <bool Inv> inline __m128d cmul(__m128d x, __m128d w)
-{
-    const __m128d wr = _mm_unpacklo_pd(w, w);
-    const __m128d wi = _mm_unpackhi_pd(w, w);
-    return _mm_add_pd(_mm_mul_pd(x, wr), _mm_xor_pd(_mm_mul_pd(swap_ri(x), wi), Inv ? sgn_hi() : sgn_lo()));
-}
-template <bool Inv> inline __m128d rot(__m128d x) { return _mm_xor_pd(swap_ri(x), Inv ? sgn_lo() : sgn_hi()); }
 
 // Within each pair of adjacent blocks (a, c) of span s: for k < s/2 the
 // butterfly (a + w c, a - w c) with w = W_2s^k from the merge table of L,
