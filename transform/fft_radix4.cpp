@@ -32,23 +32,6 @@ template <bool Inv> inline void group4(__m128& v0, __m128& v1)
     v1 = _mm_sub_ps(lo, hi);
 }
 
-// One radix-4 butterfly on two consecutive k: quarters a, b (twiddle W^2k),
-// c (W^k), d (W^3k) at p0 .. p3.
-template <bool Inv>
-inline void bfly_32(float* p0, float* p1, float* p2, float* p3, const Tw32& w1, const Tw32& w2, const Tw32& w3)
-{
-    const __m128 a = _mm_loadu_ps(p0);
-    const __m128 b = mul(_mm_loadu_ps(p1), w2);
-    const __m128 c = mul(_mm_loadu_ps(p2), w1);
-    const __m128 d = mul(_mm_loadu_ps(p3), w3);
-    __m128 x0, x1, x2, x3;
-    bfly4<Inv>(a, b, c, d, x0, x1, x2, x3);
-    _mm_storeu_ps(p0, x0);
-    _mm_storeu_ps(p1, x1);
-    _mm_storeu_ps(p2, x2);
-    _mm_storeu_ps(p3, x3);
-}
-
 // Block order of the first pass: blocks in place, or (fused with the bit
 // reversal) the block that a running source index feeds.
 struct Natural {
@@ -63,9 +46,27 @@ struct Natural {
 // table.
 inline int first_block(int64_t L) { return (L & 0xAAAAAAAAAAAAAAAAll) ? 8 : (L >= 16 ? 16 : 4); }
 
-template <bool Inv, class Load, class Order = Natural> void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load, Order order = Order())
+// Between the first pass and the last stage the 32f kernel keeps its data
+// in blocks of four values, [re0 re1 re2 re3 im0 im1 im2 im3], at the same
+// addresses as the interleaved values: the stages after the first then need
+// no shuffles. The first pass writes that form when stages follow it (soa),
+// the last stage writes the interleaved form back.
+inline void store_block(float* p, __m128 lo, __m128 hi, bool soa)
+{
+    if (soa) {
+        _mm_storeu_ps(p, _mm_shuffle_ps(lo, hi, _MM_SHUFFLE(2, 0, 2, 0)));
+        _mm_storeu_ps(p + 4, _mm_shuffle_ps(lo, hi, _MM_SHUFFLE(3, 1, 3, 1)));
+    } else {
+        _mm_storeu_ps(p, lo);
+        _mm_storeu_ps(p + 4, hi);
+    }
+}
+
+template <bool Inv, class Load, class Order = Natural>
+void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load, Order order = Order())
 {
     const int B = first_block(L);
+    const bool soa = L > B;
     if (B == 8) {
         const float c = 0.70710677f;
         const Tw32 w01 = prep<Inv>(_mm_setr_ps(1.0f, 0.0f, c, -c));
@@ -77,10 +78,8 @@ template <bool Inv, class Load, class Order = Natural> void first_pass_32(float*
             group4<Inv>(o0, o1);
             o0 = mul(o0, w01);
             o1 = mul(o1, w23);
-            _mm_storeu_ps(p, _mm_add_ps(e0, o0));
-            _mm_storeu_ps(p + 4, _mm_add_ps(e1, o1));
-            _mm_storeu_ps(p + 8, _mm_sub_ps(e0, o0));
-            _mm_storeu_ps(p + 12, _mm_sub_ps(e1, o1));
+            store_block(p, _mm_add_ps(e0, o0), _mm_add_ps(e1, o1), soa);
+            store_block(p + 8, _mm_sub_ps(e0, o0), _mm_sub_ps(e1, o1), soa);
         }
     } else if (B == 16) {
         const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
@@ -97,48 +96,102 @@ template <bool Inv, class Load, class Order = Natural> void first_pass_32(float*
             __m128 v[8];
             for (int j = 0; j < 8; ++j) v[j] = load(i, j);
             for (int g = 0; g < 4; ++g) group4<Inv>(v[2 * g], v[2 * g + 1]);
-            __m128 x0, x1, x2, x3;
+            __m128 x0, x1, x2, x3, y0, y1, y2, y3;
             bfly4<Inv>(v[0], mul(v[2], a2), mul(v[4], a1), mul(v[6], a3), x0, x1, x2, x3);
-            _mm_storeu_ps(p, x0);
-            _mm_storeu_ps(p + 8, x1);
-            _mm_storeu_ps(p + 16, x2);
-            _mm_storeu_ps(p + 24, x3);
-            bfly4<Inv>(v[1], mul(v[3], b2), mul(v[5], b1), mul(v[7], b3), x0, x1, x2, x3);
-            _mm_storeu_ps(p + 4, x0);
-            _mm_storeu_ps(p + 12, x1);
-            _mm_storeu_ps(p + 20, x2);
-            _mm_storeu_ps(p + 28, x3);
+            bfly4<Inv>(v[1], mul(v[3], b2), mul(v[5], b1), mul(v[7], b3), y0, y1, y2, y3);
+            store_block(p, x0, y0, soa);
+            store_block(p + 8, x1, y1, soa);
+            store_block(p + 16, x2, y2, soa);
+            store_block(p + 24, x3, y3, soa);
         }
     } else {
         for (int64_t i = 0; i < N / 4; ++i) {
             __m128 v0 = load(i, 0), v1 = load(i, 1);
             group4<Inv>(v0, v1);
-            float* p = d + 8 * order(i);
-            _mm_storeu_ps(p, v0);
-            _mm_storeu_ps(p + 4, v1);
+            store_block(d + 8 * order(i), v0, v1, false);
         }
     }
 }
 
-// The radix-4 stages after the first pass; the twiddles of a pair of k
-// serve every block of the stage, so k is the outer loop.
+// Real and imaginary parts of the table entries k .. k+3 (stride floats
+// apart), conjugated for the inverse; the entry k = 0 is not read when first
+// is set: lane 0 becomes exactly 1.
+template <bool Inv> inline void twiddle4(const float* t, int64_t stride, bool first, __m128& wr, __m128& wi)
+{
+    const __m128 c01 = load2(first ? t + stride : t, t + stride);
+    const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
+    wr = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(2, 0, 2, 0));
+    wi = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(3, 1, 3, 1));
+    if (first) {
+        wr = _mm_move_ss(wr, _mm_set_ss(1.0f));
+        wi = _mm_move_ss(wi, _mm_setzero_ps());
+    }
+    if (Inv) wi = _mm_xor_ps(wi, _mm_set1_ps(-0.0f));
+}
+
+// The radix-4 stages after the first pass, on blocks of four (k .. k+3);
+// the twiddles of those k serve every block of the stage, so k is the
+// outer loop.
 template <bool Inv> void later_32(float* d, int64_t N, const float* tw)
 {
-    const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
     for (int64_t span = first_block(N) * 4; span <= N; span *= 4) {
+        const bool last = span * 4 > N;
         const int64_t q = span / 4;
         const int64_t stride = 6 * (N / span);
-        for (int64_t k = 0; k < q; k += 2) {
-            auto pair = [&](int j) {
-                const float* t1 = tw + (k + 1) * stride + 2 * (j - 1);
-                // The entry k = 0 is not read: that lane multiplies by exactly 1.
-                if (k == 0) return prep<Inv>(_mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1)));
-                return prep<Inv>(load2(t1 - stride, t1));
-            };
-            const Tw32 w1 = pair(1), w2 = pair(2), w3 = pair(3);
+        for (int64_t k = 0; k < q; k += 4) {
+            __m128 wr[3], wi[3];
+            for (int j = 0; j < 3; ++j) twiddle4<Inv>(tw + k * stride + 2 * j, stride, k == 0, wr[j], wi[j]);
             float* p0 = d + 2 * k;
-            for (int64_t b = 0; b < N; b += span, p0 += 2 * span)
-                bfly_32<Inv>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w1, w2, w3);
+            for (int64_t b = 0; b < N; b += span, p0 += 2 * span) {
+                float* p1 = p0 + 2 * q;
+                float* p2 = p1 + 2 * q;
+                float* p3 = p2 + 2 * q;
+                const __m128 ar = _mm_loadu_ps(p0), ai = _mm_loadu_ps(p0 + 4);
+                // Quarter 1 times W^2k, quarter 2 times W^k, quarter 3 times W^3k.
+                auto twid = [](const float* p, __m128 r, __m128 i, __m128& yr, __m128& yi) {
+                    const __m128 xr = _mm_loadu_ps(p), xi = _mm_loadu_ps(p + 4);
+                    yr = _mm_sub_ps(_mm_mul_ps(xr, r), _mm_mul_ps(xi, i));
+                    yi = _mm_add_ps(_mm_mul_ps(xr, i), _mm_mul_ps(xi, r));
+                };
+                __m128 br, bi, cr, ci, dr, di;
+                twid(p1, wr[1], wi[1], br, bi);
+                twid(p2, wr[0], wi[0], cr, ci);
+                twid(p3, wr[2], wi[2], dr, di);
+                const __m128 t0r = _mm_add_ps(ar, br), t0i = _mm_add_ps(ai, bi);
+                const __m128 t1r = _mm_sub_ps(ar, br), t1i = _mm_sub_ps(ai, bi);
+                const __m128 t2r = _mm_add_ps(cr, dr), t2i = _mm_add_ps(ci, di);
+                const __m128 t3r = _mm_sub_ps(cr, dr), t3i = _mm_sub_ps(ci, di);
+                __m128 x0r = _mm_add_ps(t0r, t2r), x0i = _mm_add_ps(t0i, t2i);
+                __m128 x2r = _mm_sub_ps(t0r, t2r), x2i = _mm_sub_ps(t0i, t2i);
+                // X1 = t1 - i t3, X3 = t1 + i t3 forward; the other way inverse.
+                __m128 x1r, x1i, x3r, x3i;
+                if (Inv) {
+                    x1r = _mm_sub_ps(t1r, t3i), x1i = _mm_add_ps(t1i, t3r);
+                    x3r = _mm_add_ps(t1r, t3i), x3i = _mm_sub_ps(t1i, t3r);
+                } else {
+                    x1r = _mm_add_ps(t1r, t3i), x1i = _mm_sub_ps(t1i, t3r);
+                    x3r = _mm_sub_ps(t1r, t3i), x3i = _mm_add_ps(t1i, t3r);
+                }
+                if (last) {
+                    _mm_storeu_ps(p0, _mm_unpacklo_ps(x0r, x0i));
+                    _mm_storeu_ps(p0 + 4, _mm_unpackhi_ps(x0r, x0i));
+                    _mm_storeu_ps(p1, _mm_unpacklo_ps(x1r, x1i));
+                    _mm_storeu_ps(p1 + 4, _mm_unpackhi_ps(x1r, x1i));
+                    _mm_storeu_ps(p2, _mm_unpacklo_ps(x2r, x2i));
+                    _mm_storeu_ps(p2 + 4, _mm_unpackhi_ps(x2r, x2i));
+                    _mm_storeu_ps(p3, _mm_unpacklo_ps(x3r, x3i));
+                    _mm_storeu_ps(p3 + 4, _mm_unpackhi_ps(x3r, x3i));
+                } else {
+                    _mm_storeu_ps(p0, x0r);
+                    _mm_storeu_ps(p0 + 4, x0i);
+                    _mm_storeu_ps(p1, x1r);
+                    _mm_storeu_ps(p1 + 4, x1i);
+                    _mm_storeu_ps(p2, x2r);
+                    _mm_storeu_ps(p2 + 4, x2i);
+                    _mm_storeu_ps(p3, x3r);
+                    _mm_storeu_ps(p3 + 4, x3i);
+                }
+            }
         }
     }
 }
