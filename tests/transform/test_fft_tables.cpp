@@ -319,6 +319,17 @@ TEST(FFTTables, RealTwiddles)
         EXPECT_NEAR(t.rec->realFwd[2 * (512 + j) + 1], msin2pi(512 * j, N2), 1e-15);
     }
     EXPECT_EQ(std::memcmp(t.rec->realFwd, t.rec->realInv, size_t(2 * (512 + outer)) * sizeof(double)), 0);
+    // 32f: order 18 still has the small form, order 19 the two-level form
+    // with 1024 inner entries and N/4096 outer ones.
+    auto s18 = build<float, FFTSpec_R_32f>(18, tavsFFTGetSize_R_32f, tavsFFTInit_R_32f);
+    EXPECT_NEAR(s18.rec->realFwd[2 * 1024], 0.5 * cos2pi(1024, int64_t(1) << 18), 3e-8);
+    auto s19 = build<float, FFTSpec_R_32f>(19, tavsFFTGetSize_R_32f, tavsFFTInit_R_32f);
+    const int64_t N3 = int64_t(1) << 19;
+    EXPECT_NEAR(s19.rec->realFwd[2 * 5], cos2pi(5, N3), 6e-8);
+    for (int64_t j = 0; j < N3 / 4096; ++j) {
+        EXPECT_NEAR(s19.rec->realFwd[2 * (1024 + j)], cos2pi(1024 * j, N3), 6e-8);
+        EXPECT_NEAR(s19.rec->realInv[2 * (1024 + j) + 1], msin2pi(1024 * j, N3), 6e-8);
+    }
 }
 
 } // namespace
