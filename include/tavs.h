@@ -81,7 +81,7 @@ Status tavsZero_64sc(Tav64sc* dst, int len);
 /* ==== Transforms ========================================================= */
 
 /* @@TRANSFORM31@@ (FFT records) */
-/* FFT specification records: opaque, built by tavsFFTInit_* in a caller block
+/* FFT records: opaque, built by tavsFFTInit_* in a caller block
  * sized by tavsFFTGetSize_* (or by tavsFFTInitAlloc_*), tag first. */
 typedef struct FFTSpec_C_16s FFTSpec_C_16s;
 typedef struct FFTSpec_C_16sc FFTSpec_C_16sc;
