@@ -63,20 +63,680 @@ Status tavsZero_64fc(Tav64fc* dst, int len);
 Status tavsZero_64sc(Tav64sc* dst, int len);
 
 /* @@MOVERS@@ (copy, move, set, flip, swap bytes, bit copies) */
+/* ---- move: dst[i] = src[i] as if through a temporary (overlap allowed) - */
+Status tavsMove_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsMove_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsMove_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsMove_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsMove_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsMove_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsMove_32sc(const Tav32sc* src, Tav32sc* dst, int len);
+Status tavsMove_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsMove_64s(const Tav64s* src, Tav64s* dst, int len);
+Status tavsMove_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsMove_64sc(const Tav64sc* src, Tav64sc* dst, int len);
+
+/* ---- set: dst[i] = val (complex values real part first) --------------- */
+Status tavsSet_8u(Tav8u val, Tav8u* dst, int len);
+Status tavsSet_16s(Tav16s val, Tav16s* dst, int len);
+Status tavsSet_16sc(Tav16sc val, Tav16sc* dst, int len);
+Status tavsSet_32f(Tav32f val, Tav32f* dst, int len);
+Status tavsSet_32s(Tav32s val, Tav32s* dst, int len);
+Status tavsSet_32fc(Tav32fc val, Tav32fc* dst, int len);
+Status tavsSet_32sc(Tav32sc val, Tav32sc* dst, int len);
+Status tavsSet_64f(Tav64f val, Tav64f* dst, int len);
+Status tavsSet_64s(Tav64s val, Tav64s* dst, int len);
+Status tavsSet_64fc(Tav64fc val, Tav64fc* dst, int len);
+Status tavsSet_64sc(Tav64sc val, Tav64sc* dst, int len);
+
+/* ---- flip: dst[i] = src[len-1-i]; complex elements move whole --------- */
+Status tavsFlip_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsFlip_8u_I(Tav8u* srcDst, int len);
+Status tavsFlip_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsFlip_16u_I(Tav16u* srcDst, int len);
+Status tavsFlip_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsFlip_32f_I(Tav32f* srcDst, int len);
+Status tavsFlip_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsFlip_32fc_I(Tav32fc* srcDst, int len);
+Status tavsFlip_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsFlip_64f_I(Tav64f* srcDst, int len);
+Status tavsFlip_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsFlip_64fc_I(Tav64fc* srcDst, int len);
+
+/* ---- swap bytes: reverses the bytes of each element; 24u vectors are
+ * packed 3-byte elements (len counts elements) and may overlap ---------- */
+Status tavsSwapBytes_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsSwapBytes_16u_I(Tav16u* srcDst, int len);
+Status tavsSwapBytes_24u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsSwapBytes_24u_I(Tav8u* srcDst, int len);
+Status tavsSwapBytes_32u(const Tav32u* src, Tav32u* dst, int len);
+Status tavsSwapBytes_32u_I(Tav32u* srcDst, int len);
+Status tavsSwapBytes_64u(const Tav64u* src, Tav64u* dst, int len);
+Status tavsSwapBytes_64u_I(Tav64u* srcDst, int len);
+
+/* ---- bit strings: len bits from bit srcBitOffset to bit dstBitOffset;
+ * only the low three bits of an offset count, other dst bits keep ------ */
+/* Bit k of a byte is the mask 0x80 >> k (most significant first). */
+Status tavsCopy_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* The same operation as tavsCopy_1u. */
+Status tavsCopyLE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Bit k of a byte is the mask 1 << k (least significant first). */
+Status tavsCopyBE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Appends the low bitCounts[i] bits of src[i] to dst, most significant
+ * first, from bit dstBitOffset; counts are clamped to 0..32 (WarnBitCount);
+ * *totalBits receives the sum of the applied counts. */
+Status tavsPackBits_32u8u(const Tav32u* src, const Tav32s* bitCounts, int len, Tav8u* dst, int dstBitOffset,
+                          Tav32s* totalBits);
 
 /* ==== Element-wise arithmetic =========================================== */
 
 /* @@ARITH21@@ (add, subtract, multiply, add product, square, abs) */
 
+/* Operand order: Add dst = src1 + src2; Sub dst = src2 - src1 (in place:
+ * srcDst = srcDst - src); Mul dst = src1 * src2; AddProduct dst += src1 * src2.
+ * Integer forms saturate; _Sfs forms scale by 2^-scaleFactor with ties to even. */
+
+/* ---- add ----------------------------------------------------------------- */
+/* dst = sat(src1 + src2). */
+Status tavsAdd_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* srcDst = sat(src + srcDst). */
+Status tavsAdd_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = (float)src1 + (float)src2. */
+Status tavsAdd_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* srcDst = sat32(srcDst + src). */
+Status tavsAdd_16s32s_I(const Tav16s* src, Tav32s* srcDst, int len);
+/* Complex in-place scaled sum, parts independently; length tested first. */
+Status tavsAdd_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled sum, parts independently; length tested first. */
+Status tavsAdd_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* dst = sat(src1 + src2). */
+Status tavsAdd_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src1 + src2. */
+Status tavsAdd_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* srcDst = src + srcDst. */
+Status tavsAdd_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex sum; length tested first. */
+Status tavsAdd_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* Complex in-place sum; length tested first. */
+Status tavsAdd_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled sum; length tested first. */
+Status tavsAdd_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled sum; length tested first. */
+Status tavsAdd_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = min(src1 + src2, 4294967295). */
+Status tavsAdd_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+/* dst = src1 + src2. */
+Status tavsAdd_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = src + srcDst. */
+Status tavsAdd_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex sum; length tested first. */
+Status tavsAdd_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* Complex in-place sum; length tested first. */
+Status tavsAdd_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* dst = saturating 64-bit sum, then scaled. */
+Status tavsAdd_64s_Sfs(const Tav64s* src1, const Tav64s* src2, Tav64s* dst, int len, int scaleFactor);
+/* dst = src1 + src2, exact in 16u. */
+Status tavsAdd_8u16u(const Tav8u* src1, const Tav8u* src2, Tav16u* dst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- subtract: the second operand minus the first ------------------------ */
+/* dst = sat(src2 - src1). */
+Status tavsSub_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* srcDst = sat(srcDst - src). */
+Status tavsSub_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = (float)src2 - (float)src1. */
+Status tavsSub_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* Complex in-place scaled difference; length tested first. */
+Status tavsSub_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled difference src2 - src1; length tested first. */
+Status tavsSub_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src2 - src1. */
+Status tavsSub_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* srcDst = srcDst - src. */
+Status tavsSub_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex difference src2 - src1; length tested first. */
+Status tavsSub_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* Complex in-place difference; length tested first. */
+Status tavsSub_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled difference; length tested first. */
+Status tavsSub_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled difference src2 - src1; length tested first. */
+Status tavsSub_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = src2 - src1. */
+Status tavsSub_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = srcDst - src. */
+Status tavsSub_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex difference src2 - src1; length tested first. */
+Status tavsSub_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* Complex in-place difference; length tested first. */
+Status tavsSub_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- multiply -------------------------------------------------------------- */
+/* dst = sat(src1 * src2). */
+Status tavsMul_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* dst = (float)src1 * (float)src2. */
+Status tavsMul_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* 32s dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src). */
+Status tavsMul_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* Complex in-place scaled product. */
+Status tavsMul_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled product; src2 == dst goes to the in-place form. */
+Status tavsMul_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* 16s dst = sat(16u src1 * 16s src2 * 2^-scaleFactor). */
+Status tavsMul_16u16s_Sfs(const Tav16u* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src1 * src2. */
+Status tavsMul_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* dst[i] = src1[i] times both parts of src2[i]. */
+Status tavsMul_32f32fc(const Tav32f* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* srcDst[i] = src[i] times both parts of srcDst[i]. */
+Status tavsMul_32f32fc_I(const Tav32f* src, Tav32fc* srcDst, int len);
+/* srcDst = srcDst * src. */
+Status tavsMul_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex product, re = b.re*a.re + (-a.im)*b.im, im = a.im*b.re + a.re*b.im. */
+Status tavsMul_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* srcDst = srcDst * src, complex. */
+Status tavsMul_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst[i] = srcDst[i] times the 32s src[i], each part scaled. */
+Status tavsMul_32s32sc_ISfs(const Tav32s* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* dst[i] = src1[i] times both parts of src2[i], each part scaled. */
+Status tavsMul_32s32sc_Sfs(const Tav32s* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled product. */
+Status tavsMul_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled product; src2 == dst goes to the in-place form. */
+Status tavsMul_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = src1 * src2. */
+Status tavsMul_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = srcDst * src. */
+Status tavsMul_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex product, re = a.re*b.re - a.im*b.im, im = a.im*b.re + a.re*b.im. */
+Status tavsMul_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* srcDst = srcDst * src, complex. */
+Status tavsMul_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* dst = src1 * src2, exact in 16u. */
+Status tavsMul_8u16u(const Tav8u* src1, const Tav8u* src2, Tav16u* dst, int len);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+/* Low 32 bits of the 64-bit product shifted by scaleFactor, truncating, no saturation. */
+Status tavsMul_Low_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+
+/* ---- add product: dst is read as an accumulator ---------------------------- */
+/* 32s dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* dst, int len, int scaleFactor);
+/* dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = dst + src1 * src2. */
+Status tavsAddProduct_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* dst += src1 * src2, complex: re = a.re*b.re - a.im*b.im + dst.re, im = a.re*b.im + b.re*a.im + dst.im. */
+Status tavsAddProduct_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* dst = dst + src1 * src2. */
+Status tavsAddProduct_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* dst += src1 * src2, complex, in the order of tavsAddProduct_32fc. */
+Status tavsAddProduct_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* dst = dst + src * val. */
+Status tavsAddProductC_32f(const Tav32f* src, Tav32f val, Tav32f* dst, int len);
+
+/* ---- square -------------------------------------------------------------- */
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_16s_ISfs(Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_16s_Sfs(const Tav16s* src, Tav16s* dst, int len, int scaleFactor);
+/* Complex square in place, scaled. */
+Status tavsSqr_16sc_ISfs(Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex square, scaled. */
+Status tavsSqr_16sc_Sfs(const Tav16sc* src, Tav16sc* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_16u_ISfs(Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_16u_Sfs(const Tav16u* src, Tav16u* dst, int len, int scaleFactor);
+/* dst = src * src. */
+Status tavsSqr_32f(const Tav32f* src, Tav32f* dst, int len);
+/* srcDst = srcDst * srcDst. */
+Status tavsSqr_32f_I(Tav32f* srcDst, int len);
+/* Complex square as the complex product of the element with itself. */
+Status tavsSqr_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+/* Complex square in place. */
+Status tavsSqr_32fc_I(Tav32fc* srcDst, int len);
+/* dst = src * src. */
+Status tavsSqr_64f(const Tav64f* src, Tav64f* dst, int len);
+/* srcDst = srcDst * srcDst. */
+Status tavsSqr_64f_I(Tav64f* srcDst, int len);
+/* Complex square as the complex product of the element with itself. */
+Status tavsSqr_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+/* Complex square in place. */
+Status tavsSqr_64fc_I(Tav64fc* srcDst, int len);
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_8u_ISfs(Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_8u_Sfs(const Tav8u* src, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- absolute value: integers saturate, floats clear the sign bit -------- */
+Status tavsAbs_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsAbs_16s_I(Tav16s* srcDst, int len);
+Status tavsAbs_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsAbs_32f_I(Tav32f* srcDst, int len);
+Status tavsAbs_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsAbs_32s_I(Tav32s* srcDst, int len);
+Status tavsAbs_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsAbs_64f_I(Tav64f* srcDst, int len);
+
 /* @@ARITH22@@ (constant forms) */
+/* ---- constant forms: out of place (src, value, dst, len), in place (value, srcDst, len);
+ * integer forms saturate, _Sfs forms scale by 2^-scaleFactor with ties to even ---- */
+/* AddC: dst = src + value. Out of place, value 0 copies src (integer forms: at scale 0). */
+Status tavsAddC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsAddC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsAddC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsAddC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsAddC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsAddC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsAddC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsAddC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsAddC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsAddC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsAddC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsAddC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsAddC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsAddC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsAddC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsAddC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsAddC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsAddC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsAddC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsAddC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsAddC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* Six arguments: only len == 0 is refused (len is read as unsigned); rndMode 0 truncates,
+ * 1 rounds ties to even, any other value rounds half away from zero. */
+Status tavsAddC_64s_Sfs(const Tav64s* src, Tav64s value, Tav64s* dst, int len, int scaleFactor, int rndMode);
+Status tavsAddC_64u_Sfs(const Tav64u* src, Tav64u value, Tav64u* dst, int len, int scaleFactor, int rndMode);
+/* SubC: dst = src - value. Out of place, value 0 copies src (integer forms: at scale 0). */
+Status tavsSubC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsSubC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsSubC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsSubC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsSubC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsSubC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsSubC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsSubC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsSubC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsSubC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsSubC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsSubC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsSubC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsSubC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsSubC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsSubC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsSubC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsSubC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsSubC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsSubC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsSubC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* SubCRev: dst = value - src. */
+Status tavsSubCRev_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsSubCRev_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsSubCRev_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsSubCRev_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsSubCRev_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsSubCRev_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsSubCRev_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsSubCRev_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsSubCRev_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsSubCRev_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsSubCRev_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsSubCRev_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsSubCRev_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsSubCRev_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* MulC: dst = src * value. Real floats: value 1 copies (in place: nothing to do), value 0
+ * stores +0 for every element, NaN and Inf included; integers: value 0 stores 0. */
+Status tavsMulC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsMulC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsMulC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsMulC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsMulC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsMulC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsMulC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsMulC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsMulC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsMulC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsMulC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsMulC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsMulC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsMulC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsMulC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsMulC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsMulC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsMulC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsMulC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsMulC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsMulC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* In place at 128-bit width; scale above 126 or value 0 fills with zero. */
+Status tavsMulC_64s_ISfs(Tav64s value, Tav64s* srcDst, int len, int scaleFactor);
+/* The 64f value as integer mantissa and binary exponent, through tavsMulC_64s_ISfs. */
+Status tavsMulC_64f64s_ISfs(Tav64f value, Tav64s* srcDst, int len, int scaleFactor);
+/* dst = round(src * value * 2^-scaleFactor), clamped to the 16s range in float. */
+Status tavsMulC_32f16s_Sfs(const Tav32f* src, Tav32f value, Tav16s* dst, int len, int scaleFactor);
+/* dst = src * value nudged by one float epsilon away from zero, then truncated. */
+Status tavsMulC_Low_32f16s(const Tav32f* src, Tav32f value, Tav16s* dst, int len);
 
 /* @@ARITH23@@ (division) */
+/* ---- Div: dst = src2 / src1 (src1 is the divisor); _I: srcDst = srcDst / src.
+ * A zero divisor gives +-Inf or the negative quiet NaN (floats), the type's limit by the
+ * dividend's sign or 0 (integers), and WarnDivByZero once the whole vector is done ---- */
+Status tavsDiv_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+Status tavsDiv_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsDiv_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsDiv_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsDiv_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+Status tavsDiv_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsDiv_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+Status tavsDiv_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsDiv_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+Status tavsDiv_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Divisor 16s, dividend 32s, result 16s. */
+Status tavsDiv_32s16s_Sfs(const Tav16s* src1, const Tav32s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsDiv_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+Status tavsDiv_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+Status tavsDiv_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+Status tavsDiv_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+Status tavsDiv_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+Status tavsDiv_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+Status tavsDiv_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+Status tavsDiv_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* Div_Round: the quotient scaled, then rounded by rndMode (0, 1, 2; others ErrRoundMode). */
+Status tavsDiv_Round_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int rndMode, int scaleFactor);
+/* DivC: dst = src / value (32f: tavsMulC_32f by 1 / value; integer forms by the scaled
+ * reciprocal in float); value 0 gives ErrDivByZero and writes nothing. */
+Status tavsDivC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsDivC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsDivC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsDivC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsDivC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsDivC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsDivC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsDivC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsDivC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsDivC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsDivC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsDivC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsDivC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsDivC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsDivC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsDivC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* Value 0 saturates non-zero elements by sign and returns WarnDivByZero. */
+Status tavsDivC_64s_ISfs(Tav64s value, Tav64s* srcDst, int len, int scaleFactor);
+/* DivCRev: dst = value / src; a zero element follows the zero-divisor rule. */
+Status tavsDivCRev_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsDivCRev_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsDivCRev_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsDivCRev_32f_I(Tav32f value, Tav32f* srcDst, int len);
 
 /* @@ARITH24@@ (conversion) */
 
 /* @@ARITH25@@ (thresholds) */
+/* ---- threshold, selector form: relOp CmpLess acts as LT, CmpGreater as GT;
+ * any other selector is ErrBadArg. Complex forms take a real magnitude level
+ * (ErrThresholdNegative below zero). --------------------------------- */
+/* dst = LT or GT by relOp (complex: by magnitude) */
+Status tavsThreshold_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, int relOp);
+Status tavsThreshold_16s_I(Tav16s* srcDst, int len, Tav16s level, int relOp);
+Status tavsThreshold_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, int relOp);
+Status tavsThreshold_32f_I(Tav32f* srcDst, int len, Tav32f level, int relOp);
+Status tavsThreshold_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, int relOp);
+Status tavsThreshold_64f_I(Tav64f* srcDst, int len, Tav64f level, int relOp);
+Status tavsThreshold_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, int relOp);
+Status tavsThreshold_16sc_I(Tav16sc* srcDst, int len, Tav16s level, int relOp);
+Status tavsThreshold_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, int relOp);
+Status tavsThreshold_32fc_I(Tav32fc* srcDst, int len, Tav32f level, int relOp);
+Status tavsThreshold_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, int relOp);
+Status tavsThreshold_64fc_I(Tav64fc* srcDst, int len, Tav64f level, int relOp);
+/* x not above level becomes level (complex: magnitude raised to level) */
+Status tavsThreshold_LT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_LT_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_LT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_LT_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_LT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LT_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LT_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_LT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
+Status tavsThreshold_LT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
+Status tavsThreshold_LT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_LT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_LT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_LT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
+/* x not below level becomes level (complex: magnitude lowered to level) */
+Status tavsThreshold_GT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_GT_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_GT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_GT_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_GT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_GT_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_GT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_GT_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_GT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
+Status tavsThreshold_GT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
+Status tavsThreshold_GT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_GT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_GT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_GT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
+/* |x| below level becomes level with the sign of x; level >= 0 */
+Status tavsThreshold_LTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_LTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_LTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_LTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_LTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
+/* |x| above level becomes level with the sign of x; level >= 0 */
+Status tavsThreshold_GTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_GTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_GTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_GTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_GTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_GTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_GTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_GTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
+/* x below level becomes value (complex: by magnitude) */
+Status tavsThreshold_LTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_LTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_LTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_LTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_LTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_LTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_LTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_LTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_LTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_LTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_LTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
+Status tavsThreshold_LTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
+/* x above level becomes value (complex: by magnitude) */
+Status tavsThreshold_GTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_GTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_GTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_GTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_GTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_GTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_GTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_GTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_GTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_GTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_GTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
+Status tavsThreshold_GTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
+/* below lowLevel: lowValue, else above highLevel: highValue; ErrThresholdOrder when lowLevel > highLevel */
+Status tavsThreshold_LTValGTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s lowLevel, Tav16s lowValue, Tav16s highLevel, Tav16s highValue);
+Status tavsThreshold_LTValGTVal_16s_I(Tav16s* srcDst, int len, Tav16s lowLevel, Tav16s lowValue, Tav16s highLevel, Tav16s highValue);
+Status tavsThreshold_LTValGTVal_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s lowLevel, Tav32s lowValue, Tav32s highLevel, Tav32s highValue);
+Status tavsThreshold_LTValGTVal_32s_I(Tav32s* srcDst, int len, Tav32s lowLevel, Tav32s lowValue, Tav32s highLevel, Tav32s highValue);
+Status tavsThreshold_LTValGTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f lowLevel, Tav32f lowValue, Tav32f highLevel, Tav32f highValue);
+Status tavsThreshold_LTValGTVal_32f_I(Tav32f* srcDst, int len, Tav32f lowLevel, Tav32f lowValue, Tav32f highLevel, Tav32f highValue);
+Status tavsThreshold_LTValGTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f lowLevel, Tav64f lowValue, Tav64f highLevel, Tav64f highValue);
+Status tavsThreshold_LTValGTVal_64f_I(Tav64f* srcDst, int len, Tav64f lowLevel, Tav64f lowValue, Tav64f highLevel, Tav64f highValue);
+/* 1/x limited in magnitude to 1/level; level 0: plain 1/x, +Inf and WarnInvZero for zero elements */
+Status tavsThreshold_LTInv_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LTInv_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTInv_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LTInv_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_LTInv_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_LTInv_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTInv_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_LTInv_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
 
 /* @@ARITH26@@ (logic, shifts, complex helpers) */
+/* dst = src1 & src2 */
+Status tavsAnd_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsAnd_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsAnd_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsAnd_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsAnd_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsAnd_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src1 | src2 */
+Status tavsOr_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsOr_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsOr_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsOr_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsOr_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsOr_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src1 ^ src2 */
+Status tavsXor_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsXor_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsXor_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsXor_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsXor_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsXor_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src & value; value 0 is a zero fill */
+Status tavsAndC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsAndC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsAndC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsAndC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsAndC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsAndC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = src | value; value 0 is a copy */
+Status tavsOrC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsOrC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsOrC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsOrC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsOrC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsOrC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = src ^ value; value 0 is a copy */
+Status tavsXorC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsXorC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsXorC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsXorC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsXorC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsXorC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = ~src */
+Status tavsNot_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsNot_8u_I(Tav8u* srcDst, int len);
+Status tavsNot_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsNot_16u_I(Tav16u* srcDst, int len);
+Status tavsNot_32u(const Tav32u* src, Tav32u* dst, int len);
+Status tavsNot_32u_I(Tav32u* srcDst, int len);
+/* dst = src << shift; shift 0 copies, shift >= width zero-fills, negative is ErrShift */
+Status tavsLShiftC_8u(const Tav8u* src, int shift, Tav8u* dst, int len);
+Status tavsLShiftC_8u_I(int shift, Tav8u* srcDst, int len);
+Status tavsLShiftC_16u(const Tav16u* src, int shift, Tav16u* dst, int len);
+Status tavsLShiftC_16u_I(int shift, Tav16u* srcDst, int len);
+Status tavsLShiftC_16s(const Tav16s* src, int shift, Tav16s* dst, int len);
+Status tavsLShiftC_16s_I(int shift, Tav16s* srcDst, int len);
+Status tavsLShiftC_32s(const Tav32s* src, int shift, Tav32s* dst, int len);
+Status tavsLShiftC_32s_I(int shift, Tav32s* srcDst, int len);
+/* dst = src >> shift: logical for unsigned, arithmetic for signed; shift >= width
+ * gives zeros (unsigned) or the sign (signed); negative is ErrShift */
+Status tavsRShiftC_8u(const Tav8u* src, int shift, Tav8u* dst, int len);
+Status tavsRShiftC_8u_I(int shift, Tav8u* srcDst, int len);
+Status tavsRShiftC_16u(const Tav16u* src, int shift, Tav16u* dst, int len);
+Status tavsRShiftC_16u_I(int shift, Tav16u* srcDst, int len);
+Status tavsRShiftC_16s(const Tav16s* src, int shift, Tav16s* dst, int len);
+Status tavsRShiftC_16s_I(int shift, Tav16s* srcDst, int len);
+Status tavsRShiftC_32s(const Tav32s* src, int shift, Tav32s* dst, int len);
+Status tavsRShiftC_32s_I(int shift, Tav32s* srcDst, int len);
+/* dst = (re, -im); 16sc saturates -32768 to 32767, float forms flip the sign bit */
+Status tavsConj_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsConj_16sc_I(Tav16sc* srcDst, int len);
+Status tavsConj_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsConj_32fc_I(Tav32fc* srcDst, int len);
+Status tavsConj_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsConj_64fc_I(Tav64fc* srcDst, int len);
+/* dst[len-1-i] = conj(src[i]); dst must not overlap src */
+Status tavsConjFlip_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsConjFlip_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsConjFlip_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+/* dstRe = re(src) */
+Status tavsReal_16sc(const Tav16sc* src, Tav16s* dstRe, int len);
+Status tavsReal_32fc(const Tav32fc* src, Tav32f* dstRe, int len);
+Status tavsReal_64fc(const Tav64fc* src, Tav64f* dstRe, int len);
+/* dstIm = im(src) */
+Status tavsImag_16sc(const Tav16sc* src, Tav16s* dstIm, int len);
+Status tavsImag_32fc(const Tav32fc* src, Tav32f* dstIm, int len);
+Status tavsImag_64fc(const Tav64fc* src, Tav64f* dstIm, int len);
+/* both parts of src */
+Status tavsCplxToReal_16sc(const Tav16sc* src, Tav16s* dstRe, Tav16s* dstIm, int len);
+Status tavsCplxToReal_32fc(const Tav32fc* src, Tav32f* dstRe, Tav32f* dstIm, int len);
+Status tavsCplxToReal_64fc(const Tav64fc* src, Tav64f* dstRe, Tav64f* dstIm, int len);
+/* dst = (srcRe, srcIm); a null part stores zero, both null is ErrNullPtr */
+Status tavsRealToCplx_16s(const Tav16s* srcRe, const Tav16s* srcIm, Tav16sc* dst, int len);
+Status tavsRealToCplx_32f(const Tav32f* srcRe, const Tav32f* srcIm, Tav32fc* dst, int len);
+Status tavsRealToCplx_64f(const Tav64f* srcRe, const Tav64f* srcIm, Tav64fc* dst, int len);
 
 /* ==== Transforms ========================================================= */
 
