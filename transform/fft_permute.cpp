@@ -98,19 +98,9 @@ template void permute_copy<double>(const double*, double*, const int32_t*, int64
 
 // ---- scale pass -------------------------------------------------------------
 
-template <> void scale_values<float>(float* p, int64_t n, float s)
-{
-    const __m128 v = _mm_set1_ps(s);
-    int64_t i = 0;
-    for (; i + 4 <= n; i += 4) _mm_storeu_ps(p + i, _mm_mul_ps(_mm_loadu_ps(p + i), v));
-    for (; i < n; ++i) p[i] *= s;
-}
-template <> void scale_values<double>(double* p, int64_t n, double s)
-{
-    const __m128d v = _mm_set1_pd(s);
-    int64_t i = 0;
-    for (; i + 2 <= n; i += 2) _mm_storeu_pd(p + i, _mm_mul_pd(_mm_loadu_pd(p + i), v));
-    for (; i < n; ++i) p[i] *= s;
-}
+// The multiplication by a constant of the arithmetic family; every count
+// here fits in 32 bits (at most 2^28 values).
+template <> void scale_values<float>(float* p, int64_t n, float s) { tavsMulC_32f_I_body(s, p, int(n)); }
+template <> void scale_values<double>(double* p, int64_t n, double s) { tavsMulC_64f_I_body(s, p, int(n)); }
 
 } // namespace tavs::fft
