@@ -1,0 +1,132 @@
+// Helpers shared by the elementary functions: bit access to floats, the
+// floating-point scope of the batched evaluations, the first-warning rule,
+// and the arctangent kernels used by Arctan and the phase families.
+#pragma once
+
+#include <xmmintrin.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+#include "internal/math_gen.h"
+#include "internal/types.h"
+
+namespace tavs::math {
+
+inline uint32_t bits_of(float f) { return std::bit_cast<uint32_t>(f); }
+inline uint64_t bits_of(double d) { return std::bit_cast<uint64_t>(d); }
+inline float float_of(uint32_t b) { return std::bit_cast<float>(b); }
+inline double double_of(uint64_t b) { return std::bit_cast<double>(b); }
+
+// The negative quiet NaN that the float families write for a domain error.
+inline constexpr uint32_t kNegQNaN32 = 0xFFC00000u;
+inline constexpr uint64_t kNegQNaN64 = 0xFFF8000000000000ull;
+template <class T> inline T neg_qnan()
+{
+    if constexpr (sizeof(T) == 4) return std::bit_cast<T>(kNegQNaN32);
+    else return std::bit_cast<T>(kNegQNaN64);
+}
+
+// The batched evaluations (exponential, logarithm, arctangent) are
+// mathematical routines with their own settings: round to nearest, no
+// flush-to-zero, no denormals-are-zero, exceptions masked. The caller's
+// control bits come back on exit; status flags raised inside are kept, as
+// the math library keeps them.
+class MathFpScope {
+public:
+    MathFpScope() : saved_(_mm_getcsr()) { _mm_setcsr(kOwn | (saved_ & kFlags)); }
+    ~MathFpScope() { _mm_setcsr(saved_ | (_mm_getcsr() & kFlags)); }
+    MathFpScope(const MathFpScope&) = delete;
+    MathFpScope& operator=(const MathFpScope&) = delete;
+
+private:
+    static constexpr unsigned kOwn = 0x1F80u;  // all exceptions masked, nearest, no FTZ/DAZ
+    static constexpr unsigned kFlags = 0x3Fu;
+    unsigned saved_;
+};
+
+// The logarithm families report the first special element met, in index
+// order; later ones do not change the status.
+struct FirstWarning {
+    Status st = StatusOk;
+    void note(Status w)
+    {
+        if (st == StatusOk) st = w;
+    }
+};
+
+// ---- arctangent -------------------------------------------------------------
+// atan(t) for t in [0, 1]: t is moved next to c = k/8 (k = round(8t)) with
+// atan(t) = atan(c) + atan(u), u = (t - c) / (1 + t c), |u| <= 1/16, and the
+// odd series of atan(u) is cut after Terms terms (4 suffice for float
+// results, 7 for double). atan(k/8) comes as a hi + lo pair from compile time.
+inline constexpr mathgen::AtanTable kAtan = mathgen::make_atan_table();
+
+struct AtanCoefs {
+    double c[8];
+};
+constexpr AtanCoefs make_atan_coefs()
+{
+    AtanCoefs a{};
+    for (int j = 0; j < 8; ++j) a.c[j] = ((j & 1) ? -1.0 : 1.0) / double(2 * j + 1);
+    return a;
+}
+inline constexpr AtanCoefs kAtanCoef = make_atan_coefs();
+
+template <int Terms> inline double atan_series(double u)
+{
+    static_assert(Terms >= 2 && Terms <= 8);
+    const double q = u * u;
+    double p = kAtanCoef.c[Terms - 1];
+    for (int j = Terms - 2; j >= 1; --j) p = kAtanCoef.c[j] + q * p;
+    return u + u * (q * p);
+}
+
+// atan(t) = hi + lo for t in [0, 1] (not NaN).
+template <int Terms> inline void atan_unit(double t, double& hi, double& lo)
+{
+    const int k = int(t * 8.0 + 0.5);
+    const double c = double(k) * 0.125;
+    const double u = (t - c) / (1.0 + t * c);
+    hi = kAtan.hi[k];
+    lo = kAtan.lo[k] + atan_series<Terms>(u);
+}
+
+// atan(x) for any double.
+template <int Terms> inline double atan_eval(double x)
+{
+    if (x != x) return x + x;
+    const double ax = std::fabs(x);
+    double hi, lo, r;
+    if (ax <= 1.0) {
+        atan_unit<Terms>(ax, hi, lo);
+        r = hi + lo;
+    } else {
+        atan_unit<Terms>(1.0 / ax, hi, lo);
+        r = (kAtan.pio2_hi - hi) + (kAtan.pio2_lo - lo);
+    }
+    return std::copysign(r, x);
+}
+
+// atan2(y, x) of float arguments, to be rounded to float: the quadrant rules
+// of the math library's atan2 (signed zeros and infinities included).
+inline double atan2_for_float(float yf, float xf)
+{
+    const double y = yf, x = xf;
+    if (x != x || y != y) return x + y;
+    const double ax = std::fabs(x), ay = std::fabs(y);
+    double hi, lo, a;
+    if (ay <= ax) {
+        const double t = ax == 0.0 ? 0.0 : (ay == ax ? 1.0 : ay / ax);
+        atan_unit<4>(t, hi, lo);
+        a = hi + lo;
+    } else {
+        atan_unit<4>(ax / ay, hi, lo); // ay > ax: never 0/0 nor inf/inf
+        a = (kAtan.pio2_hi - hi) + (kAtan.pio2_lo - lo);
+    }
+    if (std::signbit(x)) a = (2.0 * kAtan.pio2_hi - a) + 2.0 * kAtan.pio2_lo;
+    return std::copysign(a, y);
+}
+
+} // namespace tavs::math
