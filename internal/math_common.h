@@ -129,4 +129,37 @@ inline double atan2_for_float(float yf, float xf)
     return std::copysign(a, y);
 }
 
+// ---- exact rounded square roots --------------------------------------------
+using u128 = unsigned __int128;
+
+inline uint64_t isqrt_u128(u128 v)
+{
+    uint64_t k = uint64_t(std::sqrt(static_cast<long double>(v)));
+    while (u128(k) * k > v) --k;
+    while (u128(k + 1) * (k + 1) <= v) ++k;
+    return k;
+}
+
+// round(sqrt(x) 2^-sf) with ties to even, exact, saturated to max.
+inline int64_t round_sqrt_exact(uint64_t x, int sf, int64_t max)
+{
+    if (x == 0 || sf > 32) return 0; // sqrt(x) < 2^32
+    if (sf <= 0) {
+        const int s = -sf;
+        const int bitsX = 64 - __builtin_clzll(x);
+        if (s >= 63 || bitsX + 2 * s > 126) return max;
+        const u128 v = u128(x) << (2 * s);
+        uint64_t k = isqrt_u128(v);
+        if (v - u128(k) * k > k) ++k; // sqrt(v) >= k + 1/2; never a tie
+        return k > uint64_t(max) ? max : int64_t(k);
+    }
+    // floor(sqrt(x) / 2^sf), then the half point (2r + 1)^2 4^(sf - 1).
+    // r < 2^(32 - sf), so the half point stays below 2^64.
+    uint64_t r = isqrt_u128(x) >> sf;
+    const u128 half = (u128(2 * r + 1) * (2 * r + 1)) << (2 * (sf - 1));
+    if (u128(x) > half || (u128(x) == half && (r & 1))) ++r;
+    return r > uint64_t(max) ? max : int64_t(r);
+}
+
+
 } // namespace tavs::math
