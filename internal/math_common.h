@@ -57,10 +57,12 @@ struct FirstWarning {
 };
 
 // ---- arctangent -------------------------------------------------------------
-// atan(t) for t in [0, 1]: t is moved next to c = k/8 (k = round(8t)) with
-// atan(t) = atan(c) + atan(u), u = (t - c) / (1 + t c), |u| <= 1/16, and the
-// odd series of atan(u) is cut after Terms terms (4 suffice for float
-// results, 7 for double). atan(k/8) comes as a hi + lo pair from compile time.
+// atan(t) for t in [0, 1]. Below 1/16 the odd series of t itself; above, t
+// is moved next to c = k/64 (k = round(64 t)) with atan(t) = atan(c) +
+// atan(u), u = (t - c) / (1 + t c), |u| <= 1/128, so that the rounding of u
+// stays far below the result's last place. atan(k/64) comes as a hi + lo
+// pair from compile time. Dbl selects the series lengths for double results
+// (cut-off terms below 2^-56 relative), otherwise for float results.
 inline constexpr mathgen::AtanTable kAtan = mathgen::make_atan_table();
 
 struct AtanCoefs {
@@ -83,29 +85,28 @@ template <int Terms> inline double atan_series(double u)
     return u + u * (q * p);
 }
 
-// atan(t) = hi + lo for t in [0, 1] (not NaN).
-template <int Terms> inline void atan_unit(double t, double& hi, double& lo)
+// atan(t) for t in [0, 1] (not NaN), or its complement pi/2 - atan(t); each
+// ends in one rounding of a table pair and the series.
+template <bool Dbl> inline double atan_unit(double t, bool complement)
 {
-    const int k = int(t * 8.0 + 0.5);
-    const double c = double(k) * 0.125;
-    const double u = (t - c) / (1.0 + t * c);
-    hi = kAtan.hi[k];
-    lo = kAtan.lo[k] + atan_series<Terms>(u);
+    int k = 0;
+    double s;
+    if (t < 0.0625) {
+        s = atan_series<Dbl ? 8 : 4>(t);
+    } else {
+        k = int(t * double(mathgen::kAtanSteps) + 0.5);
+        const double c = double(k) * (1.0 / mathgen::kAtanSteps);
+        s = atan_series<Dbl ? 4 : 2>((t - c) / (1.0 + t * c)); // t - c is exact: c/2 <= t <= 2c
+    }
+    return complement ? kAtan.chi[k] + (kAtan.clo[k] - s) : kAtan.hi[k] + (kAtan.lo[k] + s);
 }
 
-// atan(x) for any double.
-template <int Terms> inline double atan_eval(double x)
+// atan(x) for any double: atan(1/|x|) complemented above 1.
+template <bool Dbl> inline double atan_eval(double x)
 {
     if (x != x) return x + x;
     const double ax = std::fabs(x);
-    double hi, lo, r;
-    if (ax <= 1.0) {
-        atan_unit<Terms>(ax, hi, lo);
-        r = hi + lo;
-    } else {
-        atan_unit<Terms>(1.0 / ax, hi, lo);
-        r = (kAtan.pio2_hi - hi) + (kAtan.pio2_lo - lo);
-    }
+    const double r = ax <= 1.0 ? atan_unit<Dbl>(ax, false) : atan_unit<Dbl>(1.0 / ax, true);
     return std::copysign(r, x);
 }
 
@@ -116,15 +117,9 @@ inline double atan2_for_float(float yf, float xf)
     const double y = yf, x = xf;
     if (x != x || y != y) return x + y;
     const double ax = std::fabs(x), ay = std::fabs(y);
-    double hi, lo, a;
-    if (ay <= ax) {
-        const double t = ax == 0.0 ? 0.0 : (ay == ax ? 1.0 : ay / ax);
-        atan_unit<4>(t, hi, lo);
-        a = hi + lo;
-    } else {
-        atan_unit<4>(ax / ay, hi, lo); // ay > ax: never 0/0 nor inf/inf
-        a = (kAtan.pio2_hi - hi) + (kAtan.pio2_lo - lo);
-    }
+    double a;
+    if (ay <= ax) a = atan_unit<false>(ax == 0.0 ? 0.0 : (ay == ax ? 1.0 : ay / ax), false);
+    else a = atan_unit<false>(ax / ay, true); // ay > ax: never 0/0 nor inf/inf
     if (std::signbit(x)) a = (2.0 * kAtan.pio2_hi - a) + 2.0 * kAtan.pio2_lo;
     return std::copysign(a, y);
 }

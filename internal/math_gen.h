@@ -1,7 +1,7 @@
 // Compile-time generation of the elementary functions' tables. Every table
 // is computed here, in constant evaluation, from the rule that defines it:
 // powers of e for the integer exponentials and the logarithm ladders, powers
-// of ten for the decibel ladder, arctangents of k/8 for the batched arctangent.
+// of ten for the decibel ladder, arctangents of k/64 for the batched arctangent.
 // Nothing is typed in, and every table ends in a `static constexpr` object,
 // so the module gains no writable data.
 #pragma once
@@ -338,14 +338,15 @@ constexpr std::array<uint32_t, kDbSteps> make_db_ladder()
     return a;
 }
 
-// ---- arctangents of k/8 as double pairs (hi + lo) ---------------------------
-// Euler's series: atan x = x/(1+x^2) * sum (2n)!!/(2n+1)!! * (x^2/(1+x^2))^n,
-// with x = k/8 every term is a product of small integer ratios.
-constexpr Fix atan_k8(uint32_t k)
+// ---- arctangents of k/64 as double pairs (hi + lo) ---------------------------
+// Euler's series: atan x = x/(1+x^2) * sum (2n)!!/(2n+1)!! * (x^2/(1+x^2))^n;
+// with x = k/64 every term is a product of small integer ratios.
+inline constexpr int kAtanSteps = 64;
+constexpr Fix atan_k64(uint32_t k)
 {
     if (k == 0) return Fix{};
-    const uint32_t den = 64 + k * k;
-    Fix term = div_small(Fix::from_u64(8 * k), den), sum = term;
+    const uint32_t den = kAtanSteps * kAtanSteps + k * k;
+    Fix term = div_small(Fix::from_u64(uint64_t(kAtanSteps) * k), den), sum = term;
     for (uint32_t n = 1; n < 260; ++n) {
         term = div_small(mul_small(term, 2 * n * k * k), (2 * n + 1) * den);
         sum = add(sum, term);
@@ -395,20 +396,26 @@ constexpr DoublePair split_fix(const Fix& v)
     return {hi, -fix_to_double(sub(h, v))};
 }
 
+// atan(k/64) and its complement pi/2 - atan(k/64), each as hi + lo.
 struct AtanTable {
-    double hi[9], lo[9];
+    double hi[kAtanSteps + 1], lo[kAtanSteps + 1];
+    double chi[kAtanSteps + 1], clo[kAtanSteps + 1];
     double pio2_hi, pio2_lo;
 };
 
 constexpr AtanTable make_atan_table()
 {
     AtanTable t{};
-    for (uint32_t k = 0; k <= 8; ++k) {
-        DoublePair p = split_fix(atan_k8(k));
+    const Fix pio2 = mul_small(atan_k64(kAtanSteps), 2); // pi/2 = 2 atan(1)
+    for (uint32_t k = 0; k <= kAtanSteps; ++k) {
+        const Fix a = atan_k64(k);
+        DoublePair p = split_fix(a), c = split_fix(sub(pio2, a));
         t.hi[k] = p.hi;
         t.lo[k] = p.lo;
+        t.chi[k] = c.hi;
+        t.clo[k] = c.lo;
     }
-    DoublePair h = split_fix(mul_small(atan_k8(8), 2)); // pi/2 = 2 atan(1)
+    DoublePair h = split_fix(pio2);
     t.pio2_hi = h.hi;
     t.pio2_lo = h.lo;
     return t;

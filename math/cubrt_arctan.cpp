@@ -66,14 +66,14 @@ Status cubrt_32s16s(const Tav32s* src, Tav16s* dst, int len, int sf)
 // ---- arctangent --------------------------------------------------------------------------
 // From len 4 on, groups of four go through the inline evaluation; the last
 // one to three elements (and shorter calls) use the math library's atan.
-template <class T, int Terms> Status arctan(const T* src, T* dst, int len)
+template <class T, bool Dbl> Status arctan(const T* src, T* dst, int len)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
     MathFpScope scope;
     const int grouped = len >= 4 ? len & ~3 : 0;
     for (int i = 0; i < grouped; i += 4) {
         T out[4];
-        for (int k = 0; k < 4; ++k) out[k] = T(atan_eval<Terms>(double(src[i + k])));
+        for (int k = 0; k < 4; ++k) out[k] = T(atan_eval<Dbl>(double(src[i + k])));
         for (int k = 0; k < 4; ++k) dst[i + k] = out[k];
     }
     for (int i = grouped; i < len; ++i) dst[i] = T(std::atan(double(src[i])));
@@ -88,8 +88,8 @@ Status tavsCubrt_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int sf
 {
     return cubrt_32s16s(src, dst, len, sf);
 }
-Status tavsArctan_32f_body(const Tav32f* src, Tav32f* dst, int len) { return arctan<Tav32f, 4>(src, dst, len); }
-Status tavsArctan_32f_I_body(Tav32f* srcDst, int len) { return arctan<Tav32f, 4>(srcDst, srcDst, len); }
-Status tavsArctan_64f_body(const Tav64f* src, Tav64f* dst, int len) { return arctan<Tav64f, 7>(src, dst, len); }
-Status tavsArctan_64f_I_body(Tav64f* srcDst, int len) { return arctan<Tav64f, 7>(srcDst, srcDst, len); }
+Status tavsArctan_32f_body(const Tav32f* src, Tav32f* dst, int len) { return arctan<Tav32f, false>(src, dst, len); }
+Status tavsArctan_32f_I_body(Tav32f* srcDst, int len) { return arctan<Tav32f, false>(srcDst, srcDst, len); }
+Status tavsArctan_64f_body(const Tav64f* src, Tav64f* dst, int len) { return arctan<Tav64f, true>(src, dst, len); }
+Status tavsArctan_64f_I_body(Tav64f* srcDst, int len) { return arctan<Tav64f, true>(srcDst, srcDst, len); }
 }
