@@ -82,7 +82,7 @@ TEST(Cubrt, FloatKeepsTheSign)
 TEST(Arctan, FloatSweepWithin1Ulp)
 {
     std::vector<float> x;
-    for (uint32_t b = 0; b < 0x7F800000u; b += 1237u * mt::kSlow) x.push_back(mt::f32(b)), x.push_back(-mt::f32(b));
+    for (uint32_t b = 0; b < 0x7F800000u; b += 4099u * mt::kSlow) x.push_back(mt::f32(b)), x.push_back(-mt::f32(b));
     std::vector<float> y(x.size());
     ASSERT_EQ(tavsArctan_32f(x.data(), y.data(), int(x.size())), StatusOk);
     double worst = 0;

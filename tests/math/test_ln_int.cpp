@@ -161,10 +161,16 @@ int ref_db(Tav32s x)
 {
     static const int small[15] = {0, 0, 3, 5, 6, 7, 8, 9, 9, 10, 10, 10, 11, 11, 11};
     if (x <= 14) return small[x];
+    static const std::vector<long double> above = [] { // 10^((k - 0.5)/10) for k = 14, 16, ... 92, 93
+        std::vector<long double> v;
+        for (int j = 14; j <= 92; j += 2) v.push_back(std::pow(10.0L, (j - 0.5L) / 10));
+        v.push_back(std::pow(10.0L, 9.25L));
+        return v;
+    }();
     int k = 12;
-    for (int j = 14; j <= 92; j += 2)
-        if ((long double)x > std::pow(10.0L, (j - 0.5L) / 10)) k = j;
-    if ((long double)x > std::pow(10.0L, 9.25L)) k = 93;
+    for (size_t j = 0; j + 1 < above.size(); ++j)
+        if ((long double)x > above[j]) k = 14 + 2 * int(j);
+    if ((long double)x > above.back()) k = 93;
     return k;
 }
 
