@@ -139,6 +139,7 @@ inline uint64_t isqrt_u128(u128 v)
 inline int64_t round_sqrt_exact(uint64_t x, int sf, int64_t max)
 {
     if (x == 0 || sf > 32) return 0; // sqrt(x) < 2^32
+    if (sf < -63) return max;        // sqrt(x) 2^63 and more
     if (sf <= 0) {
         const int s = -sf;
         const int bitsX = 64 - __builtin_clzll(x);

@@ -43,7 +43,7 @@ template <class C> Status normalize_complex(const C* src, C* dst, int len, C off
 // bits with the count taken modulo 128 (as -64..63, so it stays normal).
 inline float int_reciprocal(int divisor, int sf)
 {
-    const int k = int(unsigned(sf + 64) & 127u) - 64;
+    const int k = int((unsigned(sf) + 64u) & 127u) - 64;
     const float pow2 = std::bit_cast<float>(uint32_t(127 - k) << 23);
     return (1.0f / float(divisor)) * pow2;
 }

@@ -138,7 +138,8 @@ TEST(ExpInt, Exp64sRowsAndTheTruncatingPath)
     ASSERT_EQ(tavsExp_64s_Sfs(x.data(), y.data(), len, 1), StatusOk);
     for (int i = 0; i < len; ++i) {
         const int64_t xv = x[size_t(i)];
-        int64_t ref = xv < 0 ? 0 : (xv > 44 ? INT64_MAX : (row(xv) + 1) >> 1);
+        int64_t ref = xv < 0 ? 0 : (xv > 44 ? INT64_MAX : 0);
+        if (xv >= 0 && xv < 44) ref = (row(xv) + 1) >> 1;
         if (xv == 44) ref = 0x592D071B4DE0C7FALL;
         ASSERT_EQ(y[size_t(i)], ref) << xv;
     }

@@ -30,7 +30,7 @@ TEST(MagnitudeFloat, BitExactOverLengthsAndOffsets)
 {
     tt::Rng rng(71);
     for (int len = 1; len <= 70; ++len)
-        for (int off = 0; off < 16; off += 3) {
+        for (int off = 0; off < 16; ++off) {
             std::vector<float> re(static_cast<size_t>(len)), im(static_cast<size_t>(len));
             std::vector<Tav32fc> c(static_cast<size_t>(len));
             for (int i = 0; i < len; ++i) {
@@ -38,8 +38,8 @@ TEST(MagnitudeFloat, BitExactOverLengthsAndOffsets)
                 im[size_t(i)] = float(rng.uniform(-1e3, 1e3));
                 c[size_t(i)] = {re[size_t(i)], im[size_t(i)]};
             }
-            tt::Guarded<float> a(static_cast<size_t>(len), size_t(off)), b(static_cast<size_t>(len), size_t(off)),
-                p(static_cast<size_t>(len), size_t(off)), q(static_cast<size_t>(len), size_t(off));
+            tt::Guarded<float> a(static_cast<size_t>(len), size_t(off) * 4), b(static_cast<size_t>(len), size_t(off) * 4),
+                p(static_cast<size_t>(len), size_t(off) * 4), q(static_cast<size_t>(len), size_t(off) * 4);
             ASSERT_EQ(tavsMagnitude_32f(re.data(), im.data(), a.data(), len), StatusOk);
             ASSERT_EQ(tavsMagnitude_32fc(c.data(), b.data(), len), StatusOk);
             ASSERT_EQ(tavsPowerSpectr_32f(re.data(), im.data(), p.data(), len), StatusOk);

@@ -80,7 +80,7 @@ TEST(Normalize, RefusedDivisors)
 // 128 into -64..63; saturated, else converted by the current rounding.
 Tav16s ref16(int x, int off, int divisor, int sf)
 {
-    const int k = int(unsigned(sf + 64) & 127u) - 64;
+    const int k = int((unsigned(sf) + 64u) & 127u) - 64;
     const float r = (1.0f / float(divisor)) * std::ldexp(1.0f, -k);
     const float v = float(x - off) * r;
     if (v >= 32767.0f) return 32767;

@@ -42,7 +42,7 @@ TEST(SqrtFloat, ValuesInPlaceAndOffsets)
             xd[size_t(i)] = rng.uniform(0, 1e300);
         }
         tt::Guarded<float> y(static_cast<size_t>(len), size_t(len % 4) * 4);
-        tt::Guarded<double> yd(static_cast<size_t>(len), size_t(len % 8));
+        tt::Guarded<double> yd(static_cast<size_t>(len), size_t(len % 2) * 8);
         ASSERT_EQ(tavsSqrt_32f(x.data(), y.data(), len), StatusOk);
         ASSERT_EQ(tavsSqrt_64f(xd.data(), yd.data(), len), StatusOk);
         EXPECT_TRUE(y.borders_intact() && yd.borders_intact());
@@ -123,8 +123,9 @@ int64_t ref_exact(uint64_t x, int sf, int64_t maxv)
 {
     using u128 = unsigned __int128;
     if (sf <= 0) {
-        const int s = -sf;
         if (x == 0) return 0;
+        if (sf < -40) return maxv;
+        const int s = -sf;
         if (s > 40 || (64 - __builtin_clzll(x)) + 2 * s > 126) return maxv; // root >= 2^63
         const u128 v = u128(x) << (2 * s);
         uint64_t lo = 0, hi = uint64_t(1) << 63;
