@@ -10,6 +10,7 @@ Status copy_bytes(const void* src, void* dst, int len, size_t elemSize)
 {
     if (src == nullptr || dst == nullptr) return ErrNullPtr;
     if (len < 1) return ErrSize;
+    if (src == dst) return StatusOk; // the in-place shortcuts of other families copy onto themselves
     std::memcpy(dst, src, size_t(len) * elemSize);
     return StatusOk;
 }

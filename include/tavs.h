@@ -63,6 +63,70 @@ Status tavsZero_64fc(Tav64fc* dst, int len);
 Status tavsZero_64sc(Tav64sc* dst, int len);
 
 /* @@MOVERS@@ (copy, move, set, flip, swap bytes, bit copies) */
+/* ---- move: dst[i] = src[i] as if through a temporary (overlap allowed) - */
+Status tavsMove_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsMove_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsMove_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsMove_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsMove_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsMove_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsMove_32sc(const Tav32sc* src, Tav32sc* dst, int len);
+Status tavsMove_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsMove_64s(const Tav64s* src, Tav64s* dst, int len);
+Status tavsMove_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsMove_64sc(const Tav64sc* src, Tav64sc* dst, int len);
+
+/* ---- set: dst[i] = val (complex values real part first) --------------- */
+Status tavsSet_8u(Tav8u val, Tav8u* dst, int len);
+Status tavsSet_16s(Tav16s val, Tav16s* dst, int len);
+Status tavsSet_16sc(Tav16sc val, Tav16sc* dst, int len);
+Status tavsSet_32f(Tav32f val, Tav32f* dst, int len);
+Status tavsSet_32s(Tav32s val, Tav32s* dst, int len);
+Status tavsSet_32fc(Tav32fc val, Tav32fc* dst, int len);
+Status tavsSet_32sc(Tav32sc val, Tav32sc* dst, int len);
+Status tavsSet_64f(Tav64f val, Tav64f* dst, int len);
+Status tavsSet_64s(Tav64s val, Tav64s* dst, int len);
+Status tavsSet_64fc(Tav64fc val, Tav64fc* dst, int len);
+Status tavsSet_64sc(Tav64sc val, Tav64sc* dst, int len);
+
+/* ---- flip: dst[i] = src[len-1-i]; complex elements move whole --------- */
+Status tavsFlip_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsFlip_8u_I(Tav8u* srcDst, int len);
+Status tavsFlip_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsFlip_16u_I(Tav16u* srcDst, int len);
+Status tavsFlip_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsFlip_32f_I(Tav32f* srcDst, int len);
+Status tavsFlip_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsFlip_32fc_I(Tav32fc* srcDst, int len);
+Status tavsFlip_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsFlip_64f_I(Tav64f* srcDst, int len);
+Status tavsFlip_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsFlip_64fc_I(Tav64fc* srcDst, int len);
+
+/* ---- swap bytes: reverses the bytes of each element; 24u vectors are
+ * packed 3-byte elements (len counts elements) and may overlap ---------- */
+Status tavsSwapBytes_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsSwapBytes_16u_I(Tav16u* srcDst, int len);
+Status tavsSwapBytes_24u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsSwapBytes_24u_I(Tav8u* srcDst, int len);
+Status tavsSwapBytes_32u(const Tav32u* src, Tav32u* dst, int len);
+Status tavsSwapBytes_32u_I(Tav32u* srcDst, int len);
+Status tavsSwapBytes_64u(const Tav64u* src, Tav64u* dst, int len);
+Status tavsSwapBytes_64u_I(Tav64u* srcDst, int len);
+
+/* ---- bit strings: len bits from bit srcBitOffset to bit dstBitOffset;
+ * only the low three bits of an offset count, other dst bits keep ------ */
+/* Bit k of a byte is the mask 0x80 >> k (most significant first). */
+Status tavsCopy_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* The same operation as tavsCopy_1u. */
+Status tavsCopyLE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Bit k of a byte is the mask 1 << k (least significant first). */
+Status tavsCopyBE_1u(const Tav8u* src, int srcBitOffset, Tav8u* dst, int dstBitOffset, int len);
+/* Appends the low bitCounts[i] bits of src[i] to dst, most significant
+ * first, from bit dstBitOffset; counts are clamped to 0..32 (WarnBitCount);
+ * *totalBits receives the sum of the applied counts. */
+Status tavsPackBits_32u8u(const Tav32u* src, const Tav32s* bitCounts, int len, Tav8u* dst, int dstBitOffset,
+                          Tav32s* totalBits);
 
 /* ==== Element-wise arithmetic =========================================== */
 
@@ -75,8 +139,211 @@ Status tavsZero_64sc(Tav64sc* dst, int len);
 /* @@ARITH24@@ (conversion) */
 
 /* @@ARITH25@@ (thresholds) */
+/* ---- threshold, selector form: relOp CmpLess acts as LT, CmpGreater as GT;
+ * any other selector is ErrBadArg. Complex forms take a real magnitude level
+ * (ErrThresholdNegative below zero). --------------------------------- */
+/* dst = LT or GT by relOp (complex: by magnitude) */
+Status tavsThreshold_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, int relOp);
+Status tavsThreshold_16s_I(Tav16s* srcDst, int len, Tav16s level, int relOp);
+Status tavsThreshold_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, int relOp);
+Status tavsThreshold_32f_I(Tav32f* srcDst, int len, Tav32f level, int relOp);
+Status tavsThreshold_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, int relOp);
+Status tavsThreshold_64f_I(Tav64f* srcDst, int len, Tav64f level, int relOp);
+Status tavsThreshold_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, int relOp);
+Status tavsThreshold_16sc_I(Tav16sc* srcDst, int len, Tav16s level, int relOp);
+Status tavsThreshold_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, int relOp);
+Status tavsThreshold_32fc_I(Tav32fc* srcDst, int len, Tav32f level, int relOp);
+Status tavsThreshold_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, int relOp);
+Status tavsThreshold_64fc_I(Tav64fc* srcDst, int len, Tav64f level, int relOp);
+/* x not above level becomes level (complex: magnitude raised to level) */
+Status tavsThreshold_LT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_LT_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_LT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_LT_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_LT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LT_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LT_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_LT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
+Status tavsThreshold_LT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
+Status tavsThreshold_LT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_LT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_LT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_LT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
+/* x not below level becomes level (complex: magnitude lowered to level) */
+Status tavsThreshold_GT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_GT_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_GT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_GT_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_GT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_GT_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_GT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_GT_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_GT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
+Status tavsThreshold_GT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
+Status tavsThreshold_GT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_GT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_GT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_GT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
+/* |x| below level becomes level with the sign of x; level >= 0 */
+Status tavsThreshold_LTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_LTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_LTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_LTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_LTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
+/* |x| above level becomes level with the sign of x; level >= 0 */
+Status tavsThreshold_GTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
+Status tavsThreshold_GTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
+Status tavsThreshold_GTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
+Status tavsThreshold_GTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
+Status tavsThreshold_GTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_GTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_GTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_GTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
+/* x below level becomes value (complex: by magnitude) */
+Status tavsThreshold_LTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_LTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_LTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_LTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_LTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_LTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_LTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_LTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_LTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_LTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_LTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
+Status tavsThreshold_LTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
+/* x above level becomes value (complex: by magnitude) */
+Status tavsThreshold_GTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_GTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
+Status tavsThreshold_GTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_GTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
+Status tavsThreshold_GTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_GTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
+Status tavsThreshold_GTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_GTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
+Status tavsThreshold_GTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_GTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
+Status tavsThreshold_GTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
+Status tavsThreshold_GTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
+/* below lowLevel: lowValue, else above highLevel: highValue; ErrThresholdOrder when lowLevel > highLevel */
+Status tavsThreshold_LTValGTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s lowLevel, Tav16s lowValue, Tav16s highLevel, Tav16s highValue);
+Status tavsThreshold_LTValGTVal_16s_I(Tav16s* srcDst, int len, Tav16s lowLevel, Tav16s lowValue, Tav16s highLevel, Tav16s highValue);
+Status tavsThreshold_LTValGTVal_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s lowLevel, Tav32s lowValue, Tav32s highLevel, Tav32s highValue);
+Status tavsThreshold_LTValGTVal_32s_I(Tav32s* srcDst, int len, Tav32s lowLevel, Tav32s lowValue, Tav32s highLevel, Tav32s highValue);
+Status tavsThreshold_LTValGTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f lowLevel, Tav32f lowValue, Tav32f highLevel, Tav32f highValue);
+Status tavsThreshold_LTValGTVal_32f_I(Tav32f* srcDst, int len, Tav32f lowLevel, Tav32f lowValue, Tav32f highLevel, Tav32f highValue);
+Status tavsThreshold_LTValGTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f lowLevel, Tav64f lowValue, Tav64f highLevel, Tav64f highValue);
+Status tavsThreshold_LTValGTVal_64f_I(Tav64f* srcDst, int len, Tav64f lowLevel, Tav64f lowValue, Tav64f highLevel, Tav64f highValue);
+/* 1/x limited in magnitude to 1/level; level 0: plain 1/x, +Inf and WarnInvZero for zero elements */
+Status tavsThreshold_LTInv_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
+Status tavsThreshold_LTInv_32f_I(Tav32f* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTInv_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+Status tavsThreshold_LTInv_64f_I(Tav64f* srcDst, int len, Tav64f level);
+Status tavsThreshold_LTInv_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
+Status tavsThreshold_LTInv_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+Status tavsThreshold_LTInv_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+Status tavsThreshold_LTInv_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
 
 /* @@ARITH26@@ (logic, shifts, complex helpers) */
+/* dst = src1 & src2 */
+Status tavsAnd_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsAnd_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsAnd_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsAnd_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsAnd_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsAnd_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src1 | src2 */
+Status tavsOr_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsOr_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsOr_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsOr_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsOr_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsOr_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src1 ^ src2 */
+Status tavsXor_8u(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len);
+Status tavsXor_8u_I(const Tav8u* src, Tav8u* srcDst, int len);
+Status tavsXor_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+Status tavsXor_16u_I(const Tav16u* src, Tav16u* srcDst, int len);
+Status tavsXor_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+Status tavsXor_32u_I(const Tav32u* src, Tav32u* srcDst, int len);
+/* dst = src & value; value 0 is a zero fill */
+Status tavsAndC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsAndC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsAndC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsAndC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsAndC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsAndC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = src | value; value 0 is a copy */
+Status tavsOrC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsOrC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsOrC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsOrC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsOrC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsOrC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = src ^ value; value 0 is a copy */
+Status tavsXorC_8u(const Tav8u* src, Tav8u value, Tav8u* dst, int len);
+Status tavsXorC_8u_I(Tav8u value, Tav8u* srcDst, int len);
+Status tavsXorC_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsXorC_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsXorC_32u(const Tav32u* src, Tav32u value, Tav32u* dst, int len);
+Status tavsXorC_32u_I(Tav32u value, Tav32u* srcDst, int len);
+/* dst = ~src */
+Status tavsNot_8u(const Tav8u* src, Tav8u* dst, int len);
+Status tavsNot_8u_I(Tav8u* srcDst, int len);
+Status tavsNot_16u(const Tav16u* src, Tav16u* dst, int len);
+Status tavsNot_16u_I(Tav16u* srcDst, int len);
+Status tavsNot_32u(const Tav32u* src, Tav32u* dst, int len);
+Status tavsNot_32u_I(Tav32u* srcDst, int len);
+/* dst = src << shift; shift 0 copies, shift >= width zero-fills, negative is ErrShift */
+Status tavsLShiftC_8u(const Tav8u* src, int shift, Tav8u* dst, int len);
+Status tavsLShiftC_8u_I(int shift, Tav8u* srcDst, int len);
+Status tavsLShiftC_16u(const Tav16u* src, int shift, Tav16u* dst, int len);
+Status tavsLShiftC_16u_I(int shift, Tav16u* srcDst, int len);
+Status tavsLShiftC_16s(const Tav16s* src, int shift, Tav16s* dst, int len);
+Status tavsLShiftC_16s_I(int shift, Tav16s* srcDst, int len);
+Status tavsLShiftC_32s(const Tav32s* src, int shift, Tav32s* dst, int len);
+Status tavsLShiftC_32s_I(int shift, Tav32s* srcDst, int len);
+/* dst = src >> shift: logical for unsigned, arithmetic for signed; shift >= width
+ * gives zeros (unsigned) or the sign (signed); negative is ErrShift */
+Status tavsRShiftC_8u(const Tav8u* src, int shift, Tav8u* dst, int len);
+Status tavsRShiftC_8u_I(int shift, Tav8u* srcDst, int len);
+Status tavsRShiftC_16u(const Tav16u* src, int shift, Tav16u* dst, int len);
+Status tavsRShiftC_16u_I(int shift, Tav16u* srcDst, int len);
+Status tavsRShiftC_16s(const Tav16s* src, int shift, Tav16s* dst, int len);
+Status tavsRShiftC_16s_I(int shift, Tav16s* srcDst, int len);
+Status tavsRShiftC_32s(const Tav32s* src, int shift, Tav32s* dst, int len);
+Status tavsRShiftC_32s_I(int shift, Tav32s* srcDst, int len);
+/* dst = (re, -im); 16sc saturates -32768 to 32767, float forms flip the sign bit */
+Status tavsConj_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsConj_16sc_I(Tav16sc* srcDst, int len);
+Status tavsConj_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsConj_32fc_I(Tav32fc* srcDst, int len);
+Status tavsConj_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+Status tavsConj_64fc_I(Tav64fc* srcDst, int len);
+/* dst[len-1-i] = conj(src[i]); dst must not overlap src */
+Status tavsConjFlip_16sc(const Tav16sc* src, Tav16sc* dst, int len);
+Status tavsConjFlip_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+Status tavsConjFlip_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+/* dstRe = re(src) */
+Status tavsReal_16sc(const Tav16sc* src, Tav16s* dstRe, int len);
+Status tavsReal_32fc(const Tav32fc* src, Tav32f* dstRe, int len);
+Status tavsReal_64fc(const Tav64fc* src, Tav64f* dstRe, int len);
+/* dstIm = im(src) */
+Status tavsImag_16sc(const Tav16sc* src, Tav16s* dstIm, int len);
+Status tavsImag_32fc(const Tav32fc* src, Tav32f* dstIm, int len);
+Status tavsImag_64fc(const Tav64fc* src, Tav64f* dstIm, int len);
+/* both parts of src */
+Status tavsCplxToReal_16sc(const Tav16sc* src, Tav16s* dstRe, Tav16s* dstIm, int len);
+Status tavsCplxToReal_32fc(const Tav32fc* src, Tav32f* dstRe, Tav32f* dstIm, int len);
+Status tavsCplxToReal_64fc(const Tav64fc* src, Tav64f* dstRe, Tav64f* dstIm, int len);
+/* dst = (srcRe, srcIm); a null part stores zero, both null is ErrNullPtr */
+Status tavsRealToCplx_16s(const Tav16s* srcRe, const Tav16s* srcIm, Tav16sc* dst, int len);
+Status tavsRealToCplx_32f(const Tav32f* srcRe, const Tav32f* srcIm, Tav32fc* dst, int len);
+Status tavsRealToCplx_64f(const Tav64f* srcRe, const Tav64f* srcIm, Tav64fc* dst, int len);
 
 /* ==== Transforms ========================================================= */
 

@@ -48,6 +48,26 @@ TEST(Copy, EveryType)
     check_copy<Tav64sc>(tavsCopy_64sc);
 }
 
+TEST(Copy, EveryByteLengthAndAlignment)
+{
+    // Short and long byte lengths, every source and destination
+    // offset inside a 16-byte line.
+    tt::Rng r(9);
+    std::vector<int> lens;
+    for (int len = 1; len <= 140; ++len) lens.push_back(len);
+    for (int len : {255, 256, 257, 1000}) lens.push_back(len);
+    for (int len : lens)
+        for (size_t so = 0; so < 16; ++so)
+            for (size_t dof = 0; dof < 16; dof += (len > 140 ? 5 : 1)) {
+                std::vector<unsigned char> src(size_t(len) + so);
+                for (auto& b : src) b = static_cast<unsigned char>(r.next());
+                tt::Guarded<Tav8u> g(size_t(len), dof);
+                ASSERT_EQ(tavsCopy_8u(src.data() + so, g.data(), len), StatusOk);
+                ASSERT_EQ(std::memcmp(g.data(), src.data() + so, size_t(len)), 0) << len << " " << so << " " << dof;
+                ASSERT_TRUE(g.borders_intact());
+            }
+}
+
 TEST(Copy, SharedBodyCopiesComplexBitForBit)
 {
     // tavsCopy_64f moves a 32fc vector bit for bit, signalling NaNs included.
