@@ -83,6 +83,19 @@ inline __m128 exp32_group(__m128 x)
 
 inline float exp32_libm(float x) { return float(std::exp(double(x))); }
 
+// True when all four floats are ordinary: magnitude bits at or above
+// 0x00800000 and below 0x42AEAC50 (negative) or 0x42B17218 (positive).
+inline bool exp32_all_ordinary(__m128 x)
+{
+    const __m128i b = _mm_castps_si128(x);
+    const __m128i mag = _mm_and_si128(b, _mm_set1_epi32(0x7FFFFFFF));
+    const __m128i neg = _mm_srai_epi32(b, 31);
+    const __m128i lim = _mm_or_si128(_mm_and_si128(neg, _mm_set1_epi32(0x42AEAC50)),
+                                     _mm_andnot_si128(neg, _mm_set1_epi32(0x42B17218)));
+    const __m128i ok = _mm_and_si128(_mm_cmplt_epi32(mag, lim), _mm_cmpgt_epi32(mag, _mm_set1_epi32(0x007FFFFF)));
+    return _mm_movemask_ps(_mm_castsi128_ps(ok)) == 0xF;
+}
+
 Status exp_32f(const Tav32f* src, Tav32f* dst, int len)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
@@ -97,6 +110,17 @@ Status exp_32f(const Tav32f* src, Tav32f* dst, int len)
     alignas(16) float gx[4];
     int gi[4], cnt = 0;
     for (int i = len - 1; i >= 0; --i) {
+        // Four ordinary neighbours with an empty group form the next group
+        // by themselves. Their order in memory is the reverse of the walk,
+        // which keeps the pairs (and so every bit) of the shared division.
+        if (cnt == 0 && i >= 3) {
+            const __m128 x4 = _mm_loadu_ps(src + i - 3);
+            if (exp32_all_ordinary(x4)) {
+                _mm_storeu_ps(dst + i - 3, exp32_group(x4));
+                i -= 3;
+                continue;
+            }
+        }
         float s;
         if (exp32_special(bits_of(src[i]), s)) {
             dst[i] = s;
@@ -164,16 +188,37 @@ inline __m128d exp64_pair_finish(__m128d t, __m128d hi, __m128d lo, __m128d r, _
     return _mm_castsi128_pd(_mm_add_epi64(_mm_castpd_si128(y), _mm_slli_epi64(n, 52)));
 }
 
-inline void exp64_group(const double* x, double* out)
+inline void exp64_group(__m128d x01, __m128d x23, double* out)
 {
     __m128d t01, h01, l01, r01, c01, t23, h23, l23, r23, c23;
-    exp64_pair_reduce(_mm_load_pd(x), t01, h01, l01, r01, c01);
-    exp64_pair_reduce(_mm_load_pd(x + 2), t23, h23, l23, r23, c23);
+    exp64_pair_reduce(x01, t01, h01, l01, r01, c01);
+    exp64_pair_reduce(x23, t23, h23, l23, r23, c23);
     const __m128d two = _mm_set1_pd(2.0);
     __m128d i01, i23;
     shared_reciprocal(_mm_sub_pd(two, c01), _mm_sub_pd(two, c23), i01, i23);
-    _mm_store_pd(out, exp64_pair_finish(t01, h01, l01, r01, c01, i01));
-    _mm_store_pd(out + 2, exp64_pair_finish(t23, h23, l23, r23, c23, i23));
+    _mm_storeu_pd(out, exp64_pair_finish(t01, h01, l01, r01, c01, i01));
+    _mm_storeu_pd(out + 2, exp64_pair_finish(t23, h23, l23, r23, c23, i23));
+}
+
+// Four neighbouring inputs as two pairs of doubles.
+inline void load4(const double* p, __m128d& lo, __m128d& hi)
+{
+    lo = _mm_loadu_pd(p);
+    hi = _mm_loadu_pd(p + 2);
+}
+inline void load4(const float* p, __m128d& lo, __m128d& hi)
+{
+    const __m128 x = _mm_loadu_ps(p);
+    lo = _mm_cvtps_pd(x);
+    hi = _mm_cvtps_pd(_mm_movehl_ps(x, x));
+}
+
+// True when x is ordinary: magnitude below 708.3964185322641, or positive
+// and below 709.782712893383.
+inline bool exp64_ordinary(double x)
+{
+    const uint64_t b = bits_of(x), mag = b & 0x7FFFFFFFFFFFFFFFull;
+    return mag < kExp64Under || (!(b >> 63) && b < kExp64Over);
 }
 
 // The 64f evaluation over inputs of type S (double, or float widened).
@@ -188,6 +233,16 @@ template <class S> Status exp_to_64f(const S* src, Tav64f* dst, int len)
     alignas(16) double gx[4];
     int gi[4], cnt = 0;
     for (int i = len - 1; i >= 0; --i) {
+        // Four ordinary neighbours with an empty group: the group in memory
+        // order (the pairs of the shared division are the same).
+        if (cnt == 0 && i >= 3 && exp64_ordinary(src[i]) && exp64_ordinary(src[i - 1]) &&
+            exp64_ordinary(src[i - 2]) && exp64_ordinary(src[i - 3])) {
+            __m128d lo, hi;
+            load4(src + i - 3, lo, hi);
+            exp64_group(lo, hi, dst + i - 3); // all four are read before the stores
+            i -= 3;
+            continue;
+        }
         const double x = src[i];
         double s;
         if (exp64_special(bits_of(x), s)) {
@@ -198,7 +253,7 @@ template <class S> Status exp_to_64f(const S* src, Tav64f* dst, int len)
         gi[cnt++] = i;
         if (cnt == 4) {
             alignas(16) double out[4];
-            exp64_group(gx, out);
+            exp64_group(_mm_load_pd(gx), _mm_load_pd(gx + 2), out);
             for (int k = 0; k < 4; ++k) dst[gi[k]] = out[k];
             cnt = 0;
         }
