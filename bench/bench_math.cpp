@@ -24,7 +24,8 @@ namespace {
 
 template <class T> double ulp_error(T got, long double ref)
 {
-    if (std::isnan(ref) || std::isinf(ref)) return got == ref || (std::isnan(got) && std::isnan(ref)) ? 0.0 : 1e9;
+    if (std::isnan(ref) || std::isinf(ref))
+        return got == ref || (std::isnan(got) && std::isnan(ref)) ? 0.0 : 1e9;
     int e = 0;
     std::frexp(ref, &e);
     e = std::max(e, std::numeric_limits<T>::min_exponent);
@@ -56,7 +57,8 @@ const Inputs& inputs(int n)
 
 // Runs fn over the input, records the items processed and the maximum ulp
 // error of one run's output against ref.
-template <class Out, class Fn, class Ref> void run(benchmark::State& state, std::vector<Out>& out, Fn fn, Ref ref)
+template <class Out, class Fn, class Ref>
+void run(benchmark::State& state, std::vector<Out>& out, Fn fn, Ref ref)
 {
     for (auto _ : state) {
         fn();
@@ -65,7 +67,8 @@ template <class Out, class Fn, class Ref> void run(benchmark::State& state, std:
     }
     state.SetItemsProcessed(int64_t(state.iterations()) * int64_t(out.size()));
     double worst = 0;
-    for (size_t i = 0; i < out.size(); ++i) worst = std::max(worst, ulp_error(out[i], ref(i)));
+    for (size_t i = 0; i < out.size(); ++i)
+        worst = std::max(worst, ulp_error(out[i], ref(i)));
     state.counters["max_ulp"] = worst;
 }
 
@@ -76,13 +79,20 @@ void bm_exp32f_tavs(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).expIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] { tavsExp_32f(in.data(), out.data(), int(in.size())); }, ref_exp32);
+    run(
+        s, out, [&] { tavsExp_32f(in.data(), out.data(), int(in.size())); }, ref_exp32);
 }
 void bm_exp32f_loop(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).expIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] { for (size_t i = 0; i < in.size(); ++i) out[i] = std::exp(in[i]); }, ref_exp32);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); ++i)
+                out[i] = std::exp(in[i]);
+        },
+        ref_exp32);
 }
 BENCHMARK(bm_exp32f_tavs)->Name("Exp_32f/tavs")->Arg(4096);
 BENCHMARK(bm_exp32f_loop)->Name("Exp_32f/loop")->Arg(4096);
@@ -94,13 +104,20 @@ void bm_ln32f_tavs(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).lnIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] { tavsLn_32f(in.data(), out.data(), int(in.size())); }, ref_ln32);
+    run(
+        s, out, [&] { tavsLn_32f(in.data(), out.data(), int(in.size())); }, ref_ln32);
 }
 void bm_ln32f_loop(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).lnIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] { for (size_t i = 0; i < in.size(); ++i) out[i] = std::log(in[i]); }, ref_ln32);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); ++i)
+                out[i] = std::log(in[i]);
+        },
+        ref_ln32);
 }
 BENCHMARK(bm_ln32f_tavs)->Name("Ln_32f/tavs")->Arg(4096);
 BENCHMARK(bm_ln32f_loop)->Name("Ln_32f/loop")->Arg(4096);
@@ -112,13 +129,20 @@ void bm_exp64f_tavs(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).exp64In;
     std::vector<double> out(in.size());
-    run(s, out, [&] { tavsExp_64f(in.data(), out.data(), int(in.size())); }, ref_exp64);
+    run(
+        s, out, [&] { tavsExp_64f(in.data(), out.data(), int(in.size())); }, ref_exp64);
 }
 void bm_exp64f_loop(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).exp64In;
     std::vector<double> out(in.size());
-    run(s, out, [&] { for (size_t i = 0; i < in.size(); ++i) out[i] = std::exp(in[i]); }, ref_exp64);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); ++i)
+                out[i] = std::exp(in[i]);
+        },
+        ref_exp64);
 }
 BENCHMARK(bm_exp64f_tavs)->Name("Exp_64f/tavs")->Arg(4096);
 BENCHMARK(bm_exp64f_loop)->Name("Exp_64f/loop")->Arg(4096);
@@ -134,13 +158,20 @@ void bm_mag_tavs(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
+    run(
+        s, out, [&] { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
 }
 void bm_mag_loop(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] { for (size_t i = 0; i < in.size(); ++i) out[i] = std::hypot(in[i].re, in[i].im); }, ref_mag);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); ++i)
+                out[i] = std::hypot(in[i].re, in[i].im);
+        },
+        ref_mag);
 }
 BENCHMARK(bm_mag_tavs)->Name("Magnitude_32fc/tavs")->Arg(4096);
 BENCHMARK(bm_mag_loop)->Name("Magnitude_32fc/loop")->Arg(4096);
@@ -156,13 +187,20 @@ void bm_phase_tavs(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] { tavsPhase_32fc(in.data(), out.data(), int(in.size())); }, ref_phase);
+    run(
+        s, out, [&] { tavsPhase_32fc(in.data(), out.data(), int(in.size())); }, ref_phase);
 }
 void bm_phase_loop(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] { for (size_t i = 0; i < in.size(); ++i) out[i] = std::atan2(in[i].im, in[i].re); }, ref_phase);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); ++i)
+                out[i] = std::atan2(in[i].im, in[i].re);
+        },
+        ref_phase);
 }
 BENCHMARK(bm_phase_tavs)->Name("Phase_32fc/tavs")->Arg(4096);
 BENCHMARK(bm_phase_loop)->Name("Phase_32fc/loop")->Arg(4096);
@@ -174,51 +212,71 @@ void bm_exp32f_sleef(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).expIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] {
-        for (size_t i = 0; i < in.size(); i += 4) _mm_storeu_ps(&out[i], Sleef_expf4_u10sse2(_mm_loadu_ps(&in[i])));
-    }, ref_exp32);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); i += 4)
+                _mm_storeu_ps(&out[i], Sleef_expf4_u10sse2(_mm_loadu_ps(&in[i])));
+        },
+        ref_exp32);
 }
 void bm_ln32f_sleef(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).lnIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] {
-        for (size_t i = 0; i < in.size(); i += 4) _mm_storeu_ps(&out[i], Sleef_logf4_u10sse2(_mm_loadu_ps(&in[i])));
-    }, ref_ln32);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); i += 4)
+                _mm_storeu_ps(&out[i], Sleef_logf4_u10sse2(_mm_loadu_ps(&in[i])));
+        },
+        ref_ln32);
 }
 void bm_exp64f_sleef(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).exp64In;
     std::vector<double> out(in.size());
-    run(s, out, [&] {
-        for (size_t i = 0; i < in.size(); i += 2) _mm_storeu_pd(&out[i], Sleef_expd2_u10sse2(_mm_loadu_pd(&in[i])));
-    }, ref_exp64);
+    run(
+        s, out,
+        [&] {
+            for (size_t i = 0; i < in.size(); i += 2)
+                _mm_storeu_pd(&out[i], Sleef_expd2_u10sse2(_mm_loadu_pd(&in[i])));
+        },
+        ref_exp64);
 }
 void bm_mag_sleef(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] {
-        const float* p = &in[0].re;
-        for (size_t i = 0; i < in.size(); i += 4) {
-            const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
-            const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
-            _mm_storeu_ps(&out[i], Sleef_hypotf4_u05sse2(re, im));
-        }
-    }, ref_mag);
+    run(
+        s, out,
+        [&] {
+            const float* p = &in[0].re;
+            for (size_t i = 0; i < in.size(); i += 4) {
+                const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
+                const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)),
+                             im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+                _mm_storeu_ps(&out[i], Sleef_hypotf4_u05sse2(re, im));
+            }
+        },
+        ref_mag);
 }
 void bm_phase_sleef(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
-    run(s, out, [&] {
-        const float* p = &in[0].re;
-        for (size_t i = 0; i < in.size(); i += 4) {
-            const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
-            const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
-            _mm_storeu_ps(&out[i], Sleef_atan2f4_u10sse2(im, re));
-        }
-    }, ref_phase);
+    run(
+        s, out,
+        [&] {
+            const float* p = &in[0].re;
+            for (size_t i = 0; i < in.size(); i += 4) {
+                const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
+                const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)),
+                             im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+                _mm_storeu_ps(&out[i], Sleef_atan2f4_u10sse2(im, re));
+            }
+        },
+        ref_phase);
 }
 BENCHMARK(bm_exp32f_sleef)->Name("Exp_32f/sleef")->Arg(4096);
 BENCHMARK(bm_ln32f_sleef)->Name("Ln_32f/sleef")->Arg(4096);
@@ -234,30 +292,36 @@ void bm_exp32f_volk(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).expIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
+    run(
+        s, out, [&] { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
 }
 void bm_ln32f_volk(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).lnIn;
     std::vector<float> out(in.size());
-    run(s, out, [&] {
-        volk_32f_log2_32f(out.data(), in.data(), unsigned(in.size()));
-        volk_32f_s32f_multiply_32f(out.data(), out.data(), 0.6931471805599453f, unsigned(in.size()));
-    }, ref_ln32);
+    run(
+        s, out,
+        [&] {
+            volk_32f_log2_32f(out.data(), in.data(), unsigned(in.size()));
+            volk_32f_s32f_multiply_32f(out.data(), out.data(), 0.6931471805599453f, unsigned(in.size()));
+        },
+        ref_ln32);
 }
 void bm_mag_volk(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
     const auto* c = reinterpret_cast<const lv_32fc_t*>(in.data());
-    run(s, out, [&] { volk_32fc_magnitude_32f(out.data(), c, unsigned(in.size())); }, ref_mag);
+    run(
+        s, out, [&] { volk_32fc_magnitude_32f(out.data(), c, unsigned(in.size())); }, ref_mag);
 }
 void bm_phase_volk(benchmark::State& s)
 {
     const auto& in = inputs(int(s.range(0))).cplx;
     std::vector<float> out(in.size());
     const auto* c = reinterpret_cast<const lv_32fc_t*>(in.data());
-    run(s, out, [&] { volk_32fc_s32f_atan2_32f(out.data(), c, 1.0f, unsigned(in.size())); }, ref_phase);
+    run(
+        s, out, [&] { volk_32fc_s32f_atan2_32f(out.data(), c, 1.0f, unsigned(in.size())); }, ref_phase);
 }
 BENCHMARK(bm_exp32f_volk)->Name("Exp_32f/volk")->Arg(4096);
 BENCHMARK(bm_ln32f_volk)->Name("Ln_32f/volk")->Arg(4096);

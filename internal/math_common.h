@@ -24,8 +24,10 @@ inline constexpr uint32_t kNegQNaN32 = 0xFFC00000u;
 inline constexpr uint64_t kNegQNaN64 = 0xFFF8000000000000ull;
 template <class T> inline T neg_qnan()
 {
-    if constexpr (sizeof(T) == 4) return std::bit_cast<T>(kNegQNaN32);
-    else return std::bit_cast<T>(kNegQNaN64);
+    if constexpr (sizeof(T) == 4)
+        return std::bit_cast<T>(kNegQNaN32);
+    else
+        return std::bit_cast<T>(kNegQNaN64);
 }
 
 // The batched evaluations (exponential, logarithm, arctangent) are
@@ -34,14 +36,14 @@ template <class T> inline T neg_qnan()
 // control bits come back on exit; status flags raised inside are kept, as
 // the math library keeps them.
 class MathFpScope {
-public:
+  public:
     MathFpScope() : saved_(_mm_getcsr()) { _mm_setcsr(kOwn | (saved_ & kFlags)); }
     ~MathFpScope() { _mm_setcsr(saved_ | (_mm_getcsr() & kFlags)); }
     MathFpScope(const MathFpScope&) = delete;
     MathFpScope& operator=(const MathFpScope&) = delete;
 
-private:
-    static constexpr unsigned kOwn = 0x1F80u;  // all exceptions masked, nearest, no FTZ/DAZ
+  private:
+    static constexpr unsigned kOwn = 0x1F80u; // all exceptions masked, nearest, no FTZ/DAZ
     static constexpr unsigned kFlags = 0x3Fu;
     unsigned saved_;
 };
@@ -71,7 +73,8 @@ struct AtanCoefs {
 constexpr AtanCoefs make_atan_coefs()
 {
     AtanCoefs a{};
-    for (int j = 0; j < 8; ++j) a.c[j] = ((j & 1) ? -1.0 : 1.0) / double(2 * j + 1);
+    for (int j = 0; j < 8; ++j)
+        a.c[j] = ((j & 1) ? -1.0 : 1.0) / double(2 * j + 1);
     return a;
 }
 inline constexpr AtanCoefs kAtanCoef = make_atan_coefs();
@@ -81,7 +84,8 @@ template <int Terms> inline double atan_series(double u)
     static_assert(Terms >= 2 && Terms <= 8);
     const double q = u * u;
     double p = kAtanCoef.c[Terms - 1];
-    for (int j = Terms - 2; j >= 1; --j) p = kAtanCoef.c[j] + q * p;
+    for (int j = Terms - 2; j >= 1; --j)
+        p = kAtanCoef.c[j] + q * p;
     return u + u * (q * p);
 }
 
@@ -92,11 +96,11 @@ template <bool Dbl> inline double atan_unit(double t, bool complement)
     int k = 0;
     double s;
     if (t < 0.0625) {
-        s = atan_series<Dbl ? 8 : 4>(t);
+        s = atan_series < Dbl ? 8 : 4 > (t);
     } else {
         k = int(t * double(mathgen::kAtanSteps) + 0.5);
         const double c = double(k) * (1.0 / mathgen::kAtanSteps);
-        s = atan_series<Dbl ? 4 : 2>((t - c) / (1.0 + t * c)); // t - c is exact: c/2 <= t <= 2c
+        s = atan_series < Dbl ? 4 : 2 > ((t - c) / (1.0 + t * c)); // t - c is exact: c/2 <= t <= 2c
     }
     return complement ? kAtan.chi[k] + (kAtan.clo[k] - s) : kAtan.hi[k] + (kAtan.lo[k] + s);
 }
@@ -118,8 +122,10 @@ inline double atan2_for_float(float yf, float xf)
     if (x != x || y != y) return x + y;
     const double ax = std::fabs(x), ay = std::fabs(y);
     double a;
-    if (ay <= ax) a = atan_unit<false>(ax == 0.0 ? 0.0 : (ay == ax ? 1.0 : ay / ax), false);
-    else a = atan_unit<false>(ax / ay, true); // ay > ax: never 0/0 nor inf/inf
+    if (ay <= ax)
+        a = atan_unit<false>(ax == 0.0 ? 0.0 : (ay == ax ? 1.0 : ay / ax), false);
+    else
+        a = atan_unit<false>(ax / ay, true); // ay > ax: never 0/0 nor inf/inf
     if (std::signbit(x)) a = (2.0 * kAtan.pio2_hi - a) + 2.0 * kAtan.pio2_lo;
     return std::copysign(a, y);
 }
@@ -130,8 +136,10 @@ using u128 = unsigned __int128;
 inline uint64_t isqrt_u128(u128 v)
 {
     uint64_t k = uint64_t(std::sqrt(static_cast<long double>(v)));
-    while (u128(k) * k > v) --k;
-    while (u128(k + 1) * (k + 1) <= v) ++k;
+    while (u128(k) * k > v)
+        --k;
+    while (u128(k + 1) * (k + 1) <= v)
+        ++k;
     return k;
 }
 
@@ -156,6 +164,5 @@ inline int64_t round_sqrt_exact(uint64_t x, int sf, int64_t max)
     if (u128(x) > half || (u128(x) == half && (r & 1))) ++r;
     return r > uint64_t(max) ? max : int64_t(r);
 }
-
 
 } // namespace tavs::math

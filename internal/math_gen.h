@@ -80,7 +80,8 @@ constexpr Fix mul(const Fix& a, const Fix& b)
         acc[i + Fix::L] += carry;
     }
     Fix r;
-    for (int i = 0; i < Fix::L; ++i) r.w[i] = uint32_t(acc[i + Fix::F]);
+    for (int i = 0; i < Fix::L; ++i)
+        r.w[i] = uint32_t(acc[i + Fix::F]);
     return r;
 }
 
@@ -116,7 +117,7 @@ constexpr Fix shift(const Fix& a, int n)
     const int limbs = n >= 0 ? n / 32 : -((-n + 31) / 32); // floor(n / 32)
     const int bits = n - 32 * limbs;                       // 0 .. 31
     for (int i = 0; i < Fix::L; ++i) {
-        const int lo = i - limbs;                          // source limb of the low part
+        const int lo = i - limbs; // source limb of the low part
         uint64_t v = 0;
         if (lo >= 0 && lo < Fix::L) v |= uint64_t(a.w[lo]) << bits;
         if (lo - 1 >= 0 && lo - 1 < Fix::L && bits) v |= uint64_t(a.w[lo - 1]) >> (32 - bits);
@@ -152,8 +153,10 @@ constexpr Fix e_series(bool inverse)
     Fix term = Fix::from_u64(1), pos = term, neg;
     for (uint32_t n = 1; n < 70; ++n) {
         term = div_small(term, n);
-        if (inverse && (n & 1)) neg = add(neg, term);
-        else pos = add(pos, term);
+        if (inverse && (n & 1))
+            neg = add(neg, term);
+        else
+            pos = add(pos, term);
     }
     return sub(pos, neg);
 }
@@ -172,8 +175,10 @@ constexpr EPowers make_epowers()
     const Fix e = e_series(false), ei = e_series(true);
     p.pos[0] = Fix::from_u64(1);
     p.neg[0] = Fix::from_u64(1);
-    for (int k = 1; k <= kMaxPosPow; ++k) p.pos[k] = mul(p.pos[k - 1], e);
-    for (int k = 1; k <= kMaxNegPow; ++k) p.neg[k] = mul(p.neg[k - 1], ei);
+    for (int k = 1; k <= kMaxPosPow; ++k)
+        p.pos[k] = mul(p.pos[k - 1], e);
+    for (int k = 1; k <= kMaxNegPow; ++k)
+        p.neg[k] = mul(p.neg[k - 1], ei);
     return p;
 }
 
@@ -233,7 +238,8 @@ constexpr std::array<uint64_t, kMaxPosPow + 1> make_ceil_epow()
 {
     std::array<uint64_t, kMaxPosPow + 1> a{};
     a[0] = 1;
-    for (int m = 1; m <= kMaxPosPow; ++m) a[m] = int_part(kEPow.pos[m]) + 1;
+    for (int m = 1; m <= kMaxPosPow; ++m)
+        a[m] = int_part(kEPow.pos[m]) + 1;
     return a;
 }
 
@@ -253,7 +259,8 @@ inline constexpr int kLnLadderTop = 22; // ladder thresholds for k = 1 .. 22
 constexpr std::array<uint32_t, kLnLadderTop + 1> make_ln_ladder()
 {
     std::array<uint32_t, kLnLadderTop + 1> a{};
-    for (int k = 1; k <= kLnLadderTop; ++k) a[k] = uint32_t(isqrt64(int_part(kEPow.pos[2 * k - 1])) + 1);
+    for (int k = 1; k <= kLnLadderTop; ++k)
+        a[k] = uint32_t(isqrt64(int_part(kEPow.pos[2 * k - 1])) + 1);
     return a;
 }
 
@@ -279,7 +286,8 @@ constexpr Big big_mul(const Big& a, const Big& b)
         }
     }
     Big r;
-    for (int i = 0; i < Big::N; ++i) r.w[i] = uint32_t(acc[i]);
+    for (int i = 0; i < Big::N; ++i)
+        r.w[i] = uint32_t(acc[i]);
     return r;
 }
 
@@ -315,16 +323,20 @@ constexpr uint32_t decibel_threshold(int m)
     long double r = 1.12L; // 10^(1/20) by Newton's method
     for (int i = 0; i < 60; ++i) {
         long double p = 1;
-        for (int j = 0; j < 19; ++j) p *= r;
+        for (int j = 0; j < 19; ++j)
+            p *= r;
         r -= (p * r - 10) / (20 * p);
     }
     long double y = 1;
-    for (int j = 0; j < m; ++j) y *= r;
+    for (int j = 0; j < m; ++j)
+        y *= r;
     const Big ten = big_pow(10, m);
     uint64_t c = uint64_t(y);
     c = c > 2 ? c - 2 : 1;
-    while (big_cmp(big_pow(c, 20), ten) <= 0) ++c;
-    while (c > 1 && big_cmp(big_pow(c - 1, 20), ten) > 0) --c;
+    while (big_cmp(big_pow(c, 20), ten) <= 0)
+        ++c;
+    while (c > 1 && big_cmp(big_pow(c - 1, 20), ten) > 0)
+        --c;
     return uint32_t(c);
 }
 
@@ -333,7 +345,8 @@ inline constexpr int kDbSteps = 42;
 constexpr std::array<uint32_t, kDbSteps> make_db_ladder()
 {
     std::array<uint32_t, kDbSteps> a{};
-    for (int i = 0; i < kDbSteps - 1; ++i) a[i] = decibel_threshold(2 * (12 + 2 * i) - 1);
+    for (int i = 0; i < kDbSteps - 1; ++i)
+        a[i] = decibel_threshold(2 * (12 + 2 * i) - 1);
     a[kDbSteps - 1] = decibel_threshold(2 * 93 - 1);
     return a;
 }
@@ -369,8 +382,10 @@ constexpr double fix_to_double(const Fix& a)
     const uint64_t m = uint64_t(s.w[0]) | (uint64_t(s.w[1]) << 32);
     double d = double(m);
     int e = top - 63 - 32 * Fix::F;
-    for (; e > 0; --e) d *= 2.0;
-    for (; e < 0; ++e) d *= 0.5;
+    for (; e > 0; --e)
+        d *= 2.0;
+    for (; e < 0; ++e)
+        d *= 0.5;
     return d;
 }
 

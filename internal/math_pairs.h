@@ -15,7 +15,10 @@ template <class T> struct SplitPairs {
     T r(int i) const { return re[i]; }
     T m(int i) const { return im[i]; }
     // ErrNullPtr for any null pointer (the sources first), then ErrSize.
-    template <class... D> Status check(int len, const D*... dst) const { return check_ptrs_len(len, re, im, dst...); }
+    template <class... D> Status check(int len, const D*... dst) const
+    {
+        return check_ptrs_len(len, re, im, dst...);
+    }
 };
 
 template <class C> struct PackedPairs {
@@ -23,7 +26,10 @@ template <class C> struct PackedPairs {
     const C* p;
     part r(int i) const { return p[i].re; }
     part m(int i) const { return p[i].im; }
-    template <class... D> Status check(int len, const D*... dst) const { return check_ptrs_len(len, p, dst...); }
+    template <class... D> Status check(int len, const D*... dst) const
+    {
+        return check_ptrs_len(len, p, dst...);
+    }
 };
 
 template <class T> inline SplitPairs<T> pairs(const T* re, const T* im) { return {re, im}; }

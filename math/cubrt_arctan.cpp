@@ -13,7 +13,8 @@ using namespace tavs::math;
 Status cubrt_32f(const Tav32f* src, Tav32f* dst, int len)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
-    for (int i = 0; i < len; ++i) dst[i] = float(std::cbrt(double(src[i]))); // the sign is kept
+    for (int i = 0; i < len; ++i)
+        dst[i] = float(std::cbrt(double(src[i]))); // the sign is kept
     return StatusOk;
 }
 
@@ -59,7 +60,8 @@ inline Tav16s cubrt_one(Tav32s x, int sf)
 Status cubrt_32s16s(const Tav32s* src, Tav16s* dst, int len, int sf)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
-    for (int i = 0; i < len; ++i) dst[i] = cubrt_one(src[i], sf);
+    for (int i = 0; i < len; ++i)
+        dst[i] = cubrt_one(src[i], sf);
     return StatusOk;
 }
 
@@ -73,10 +75,13 @@ template <class T, bool Dbl> Status arctan(const T* src, T* dst, int len)
     const int grouped = len >= 4 ? len & ~3 : 0;
     for (int i = 0; i < grouped; i += 4) {
         T out[4];
-        for (int k = 0; k < 4; ++k) out[k] = T(atan_eval<Dbl>(double(src[i + k])));
-        for (int k = 0; k < 4; ++k) dst[i + k] = out[k];
+        for (int k = 0; k < 4; ++k)
+            out[k] = T(atan_eval<Dbl>(double(src[i + k])));
+        for (int k = 0; k < 4; ++k)
+            dst[i + k] = out[k];
     }
-    for (int i = grouped; i < len; ++i) dst[i] = T(std::atan(double(src[i])));
+    for (int i = grouped; i < len; ++i)
+        dst[i] = T(std::atan(double(src[i])));
     return StatusOk;
 }
 
@@ -88,8 +93,14 @@ Status tavsCubrt_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int sf
 {
     return cubrt_32s16s(src, dst, len, sf);
 }
-Status tavsArctan_32f_body(const Tav32f* src, Tav32f* dst, int len) { return arctan<Tav32f, false>(src, dst, len); }
+Status tavsArctan_32f_body(const Tav32f* src, Tav32f* dst, int len)
+{
+    return arctan<Tav32f, false>(src, dst, len);
+}
 Status tavsArctan_32f_I_body(Tav32f* srcDst, int len) { return arctan<Tav32f, false>(srcDst, srcDst, len); }
-Status tavsArctan_64f_body(const Tav64f* src, Tav64f* dst, int len) { return arctan<Tav64f, true>(src, dst, len); }
+Status tavsArctan_64f_body(const Tav64f* src, Tav64f* dst, int len)
+{
+    return arctan<Tav64f, true>(src, dst, len);
+}
 Status tavsArctan_64f_I_body(Tav64f* srcDst, int len) { return arctan<Tav64f, true>(srcDst, srcDst, len); }
 }

@@ -92,7 +92,8 @@ inline bool exp32_all_ordinary(__m128 x)
     const __m128i neg = _mm_srai_epi32(b, 31);
     const __m128i lim = _mm_or_si128(_mm_and_si128(neg, _mm_set1_epi32(0x42AEAC50)),
                                      _mm_andnot_si128(neg, _mm_set1_epi32(0x42B17218)));
-    const __m128i ok = _mm_and_si128(_mm_cmplt_epi32(mag, lim), _mm_cmpgt_epi32(mag, _mm_set1_epi32(0x007FFFFF)));
+    const __m128i ok =
+        _mm_and_si128(_mm_cmplt_epi32(mag, lim), _mm_cmpgt_epi32(mag, _mm_set1_epi32(0x007FFFFF)));
     return _mm_movemask_ps(_mm_castsi128_ps(ok)) == 0xF;
 }
 
@@ -131,11 +132,13 @@ Status exp_32f(const Tav32f* src, Tav32f* dst, int len)
         if (cnt == 4) {
             alignas(16) float out[4];
             _mm_store_ps(out, exp32_group(_mm_load_ps(gx)));
-            for (int k = 0; k < 4; ++k) dst[gi[k]] = out[k];
+            for (int k = 0; k < 4; ++k)
+                dst[gi[k]] = out[k];
             cnt = 0;
         }
     }
-    for (int k = 0; k < cnt; ++k) dst[gi[k]] = exp32_libm(gx[k]);
+    for (int k = 0; k < cnt; ++k)
+        dst[gi[k]] = exp32_libm(gx[k]);
     return StatusOk;
 }
 
@@ -183,7 +186,8 @@ inline void exp64_pair_reduce(__m128d x, __m128d& t, __m128d& hi, __m128d& lo, _
 
 inline __m128d exp64_pair_finish(__m128d t, __m128d hi, __m128d lo, __m128d r, __m128d c, __m128d rec)
 {
-    const __m128d y = _mm_add_pd(_mm_sub_pd(_mm_add_pd(hi, _mm_set1_pd(1.0)), lo), _mm_mul_pd(_mm_mul_pd(r, c), rec));
+    const __m128d y =
+        _mm_add_pd(_mm_sub_pd(_mm_add_pd(hi, _mm_set1_pd(1.0)), lo), _mm_mul_pd(_mm_mul_pd(r, c), rec));
     const __m128i n = _mm_sub_epi64(_mm_castpd_si128(t), _mm_castpd_si128(_mm_set1_pd(kShifter)));
     return _mm_castsi128_pd(_mm_add_epi64(_mm_castpd_si128(y), _mm_slli_epi64(n, 52)));
 }
@@ -227,7 +231,8 @@ template <class S> Status exp_to_64f(const S* src, Tav64f* dst, int len)
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
     MathFpScope scope;
     if (len < 4) { // no triage here: the math library gives denormals too
-        for (int i = 0; i < len; ++i) dst[i] = std::exp(double(src[i]));
+        for (int i = 0; i < len; ++i)
+            dst[i] = std::exp(double(src[i]));
         return StatusOk;
     }
     alignas(16) double gx[4];
@@ -254,11 +259,13 @@ template <class S> Status exp_to_64f(const S* src, Tav64f* dst, int len)
         if (cnt == 4) {
             alignas(16) double out[4];
             exp64_group(_mm_load_pd(gx), _mm_load_pd(gx + 2), out);
-            for (int k = 0; k < 4; ++k) dst[gi[k]] = out[k];
+            for (int k = 0; k < 4; ++k)
+                dst[gi[k]] = out[k];
             cnt = 0;
         }
     }
-    for (int k = 0; k < cnt; ++k) dst[gi[k]] = std::exp(gx[k]);
+    for (int k = 0; k < cnt; ++k)
+        dst[gi[k]] = std::exp(gx[k]);
     return StatusOk;
 }
 

@@ -89,20 +89,23 @@ inline Tav64s exp_64s_one(Tav64s x, int sf)
 template <class T, class F> Status exp_int(const T* src, T* dst, int len, F one)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
-    for (int i = 0; i < len; ++i) dst[i] = one(src[i]);
+    for (int i = 0; i < len; ++i)
+        dst[i] = one(src[i]);
     return StatusOk;
 }
 
 Status exp_16s(const Tav16s* src, Tav16s* dst, int len, int sf)
 {
-    return exp_int(src, dst, len,
-                   [sf](Tav16s x) { return exp_int_one<Tav16s, decltype(kExp16), 25, 17, 16>(x, sf, kExp16); });
+    return exp_int(src, dst, len, [sf](Tav16s x) {
+        return exp_int_one<Tav16s, decltype(kExp16), 25, 17, 16>(x, sf, kExp16);
+    });
 }
 
 Status exp_32s(const Tav32s* src, Tav32s* dst, int len, int sf)
 {
-    return exp_int(src, dst, len,
-                   [sf](Tav32s x) { return exp_int_one<Tav32s, decltype(kExp32), 45, 32, 31>(x, sf, kExp32); });
+    return exp_int(src, dst, len, [sf](Tav32s x) {
+        return exp_int_one<Tav32s, decltype(kExp32), 45, 32, 31>(x, sf, kExp32);
+    });
 }
 
 Status exp_64s(const Tav64s* src, Tav64s* dst, int len, int sf)
@@ -113,10 +116,19 @@ Status exp_64s(const Tav64s* src, Tav64s* dst, int len, int sf)
 } // namespace
 
 extern "C" {
-Status tavsExp_16s_Sfs_body(const Tav16s* src, Tav16s* dst, int len, int sf) { return exp_16s(src, dst, len, sf); }
+Status tavsExp_16s_Sfs_body(const Tav16s* src, Tav16s* dst, int len, int sf)
+{
+    return exp_16s(src, dst, len, sf);
+}
 Status tavsExp_16s_ISfs_body(Tav16s* srcDst, int len, int sf) { return exp_16s(srcDst, srcDst, len, sf); }
-Status tavsExp_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf) { return exp_32s(src, dst, len, sf); }
+Status tavsExp_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf)
+{
+    return exp_32s(src, dst, len, sf);
+}
 Status tavsExp_32s_ISfs_body(Tav32s* srcDst, int len, int sf) { return exp_32s(srcDst, srcDst, len, sf); }
-Status tavsExp_64s_Sfs_body(const Tav64s* src, Tav64s* dst, int len, int sf) { return exp_64s(src, dst, len, sf); }
+Status tavsExp_64s_Sfs_body(const Tav64s* src, Tav64s* dst, int len, int sf)
+{
+    return exp_64s(src, dst, len, sf);
+}
 Status tavsExp_64s_ISfs_body(Tav64s* srcDst, int len, int sf) { return exp_64s(srcDst, srcDst, len, sf); }
 }

@@ -38,7 +38,8 @@ template <class S, class D> Status ln_simple(const S* src, D* dst, int len)
 {
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
     FirstWarning w;
-    for (int i = 0; i < len; ++i) dst[i] = ln_one<S, D>(src[i], w);
+    for (int i = 0; i < len; ++i)
+        dst[i] = ln_one<S, D>(src[i], w);
     return w.st;
 }
 
@@ -90,10 +91,13 @@ Status ln_64f32f(const Tav64f* src, Tav32f* dst, int len)
     int i = 0;
     for (; i + 4 <= len; i += 4) {
         float out[4];
-        for (int k = 0; k < 4; ++k) out[k] = ln64_batched_one(src[i + k], w);
-        for (int k = 0; k < 4; ++k) dst[i + k] = out[k];
+        for (int k = 0; k < 4; ++k)
+            out[k] = ln64_batched_one(src[i + k], w);
+        for (int k = 0; k < 4; ++k)
+            dst[i + k] = out[k];
     }
-    for (; i < len; ++i) dst[i] = ln64_batched_one(src[i], w);
+    for (; i < len; ++i)
+        dst[i] = ln64_batched_one(src[i], w);
     return w.st;
 }
 
@@ -169,7 +173,10 @@ Status tavsLn_64f32f_body(const Tav64f* src, Tav32f* dst, int len) { return ln_6
 
 Status tavsSumLn_32f_body(const Tav32f* src, int len, Tav32f* sum) { return sum_ln(src, len, sum, split32); }
 Status tavsSumLn_64f_body(const Tav64f* src, int len, Tav64f* sum) { return sum_ln(src, len, sum, split64); }
-Status tavsSumLn_32f64f_body(const Tav32f* src, int len, Tav64f* sum) { return sum_ln(src, len, sum, split32); }
+Status tavsSumLn_32f64f_body(const Tav32f* src, int len, Tav64f* sum)
+{
+    return sum_ln(src, len, sum, split32);
+}
 Status tavsSumLn_16s32f_body(const Tav16s* src, int len, Tav32f* sum)
 {
     return sum_ln(src, len, sum, [](Tav16s x) { return split32(float(x)); });

@@ -17,15 +17,16 @@ namespace {
 namespace gen = tavs::mathgen;
 using tavs::math::FirstWarning;
 
-constexpr auto kLnLadder = gen::make_ln_ladder();   // [k]: first x with round(ln x) >= k
-constexpr auto kCeilEPow = gen::make_ceil_epow();   // [m]: first x with ln x >= m
-constexpr auto kDbLadder = gen::make_db_ladder();   // first x of 12, 14, ... 92, then of 93
+constexpr auto kLnLadder = gen::make_ln_ladder(); // [k]: first x with round(ln x) >= k
+constexpr auto kCeilEPow = gen::make_ceil_epow(); // [m]: first x with ln x >= m
+constexpr auto kDbLadder = gen::make_db_ladder(); // first x of 12, 14, ... 92, then of 93
 
 // round(ln x) for x >= 1.
 inline int ln_ladder(uint64_t x)
 {
     int k = 0;
-    while (k < gen::kLnLadderTop && x >= kLnLadder[k + 1]) ++k;
+    while (k < gen::kLnLadderTop && x >= kLnLadder[k + 1])
+        ++k;
     return k;
 }
 
@@ -37,7 +38,8 @@ inline int ln_round_scaled(uint64_t x, int sf)
     if (sf > 6) return 0; // 2^(sf-1) above 44 > ln of any 32-bit value
     const int unit = 1 << (sf - 1);
     int j = 0;
-    for (int m = unit; m <= gen::kMaxPosPow && x >= kCeilEPow[m]; m += 2 * unit) ++j;
+    for (int m = unit; m <= gen::kMaxPosPow && x >= kCeilEPow[m]; m += 2 * unit)
+        ++j;
     return j;
 }
 
@@ -63,7 +65,8 @@ inline Tav16s ln_to16(int32_t x, int sf, bool squareLadder)
     if (sf == -1 && squareLadder) {
         if (x <= 181) return Tav16s(ln_ladder(uint64_t(x) * uint64_t(x)));
         int k = 0;
-        while ((x >> k) > 181) ++k;
+        while ((x >> k) > 181)
+            ++k;
         const uint64_t h = uint64_t(x >> k);
         return Tav16s(ln_ladder(h * h) + ln_ladder(uint64_t(1) << (2 * k)));
     }
@@ -138,14 +141,16 @@ inline int db_ladder(Tav32s x)
     if (x <= 14) return kDbSmall[x];
     if (uint32_t(x) >= kDbLadder[gen::kDbSteps - 1]) return 93;
     int k = 12;
-    for (int i = 1; i < gen::kDbSteps - 1 && uint32_t(x) >= kDbLadder[i]; ++i) k += 2;
+    for (int i = 1; i < gen::kDbSteps - 1 && uint32_t(x) >= kDbLadder[i]; ++i)
+        k += 2;
     return k;
 }
 
 inline Tav32s db_one(Tav32s x, int sf)
 {
     if (sf < 0)
-        return Tav32s(ln_widened(4.342944819032518 * std::pow(2.0, -double(sf)) * std::log(double(x)), 2147483647.0));
+        return Tav32s(
+            ln_widened(4.342944819032518 * std::pow(2.0, -double(sf)) * std::log(double(x)), 2147483647.0));
     return Tav32s(db_ladder(x) >> (sf & 31));
 }
 
@@ -157,11 +162,23 @@ Status db_32s(const Tav32s* src, Tav32s* dst, int len, int sf)
 } // namespace
 
 extern "C" {
-Status tavsLn_16s_Sfs_body(const Tav16s* src, Tav16s* dst, int len, int sf) { return ln_16s(src, dst, len, sf); }
+Status tavsLn_16s_Sfs_body(const Tav16s* src, Tav16s* dst, int len, int sf)
+{
+    return ln_16s(src, dst, len, sf);
+}
 Status tavsLn_16s_ISfs_body(Tav16s* srcDst, int len, int sf) { return ln_16s_inplace(srcDst, len, sf); }
-Status tavsLn_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf) { return ln_32s(src, dst, len, sf); }
+Status tavsLn_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf)
+{
+    return ln_32s(src, dst, len, sf);
+}
 Status tavsLn_32s_ISfs_body(Tav32s* srcDst, int len, int sf) { return ln_32s_inplace(srcDst, len, sf); }
-Status tavsLn_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int sf) { return ln_32s16s(src, dst, len, sf); }
-Status tavs10Log10_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf) { return db_32s(src, dst, len, sf); }
+Status tavsLn_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int sf)
+{
+    return ln_32s16s(src, dst, len, sf);
+}
+Status tavs10Log10_32s_Sfs_body(const Tav32s* src, Tav32s* dst, int len, int sf)
+{
+    return db_32s(src, dst, len, sf);
+}
 Status tavs10Log10_32s_ISfs_body(Tav32s* srcDst, int len, int sf) { return db_32s(srcDst, srcDst, len, sf); }
 }

@@ -35,7 +35,8 @@ Status magnitude_32f(const Tav32f* re, const Tav32f* im, Tav32f* dst, int len)
         const __m128 r = _mm_loadu_ps(re + i), m = _mm_loadu_ps(im + i);
         _mm_storeu_ps(dst + i, _mm_sqrt_ps(_mm_add_ps(_mm_mul_ps(r, r), _mm_mul_ps(m, m))));
     }
-    for (; i < len; ++i) dst[i] = std::sqrt(re[i] * re[i] + im[i] * im[i]);
+    for (; i < len; ++i)
+        dst[i] = std::sqrt(re[i] * re[i] + im[i] * im[i]);
     return StatusOk;
 }
 
@@ -50,7 +51,8 @@ Status magnitude_32fc(const Tav32fc* src, Tav32f* dst, int len)
         const __m128 m = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
         _mm_storeu_ps(dst + i, _mm_sqrt_ps(_mm_add_ps(_mm_mul_ps(r, r), _mm_mul_ps(m, m))));
     }
-    for (; i < len; ++i) dst[i] = std::sqrt(src[i].re * src[i].re + src[i].im * src[i].im);
+    for (; i < len; ++i)
+        dst[i] = std::sqrt(src[i].re * src[i].re + src[i].im * src[i].im);
     return StatusOk;
 }
 
@@ -75,7 +77,8 @@ inline Tav16s magnitude16(uint32_t sum, int sf)
 template <class Pairs> Status magnitude_16s(Pairs src, Tav16s* dst, int len, int sf)
 {
     if (Status st = src.check(len, dst)) return st;
-    for (int i = 0; i < len; ++i) dst[i] = magnitude16(sumsq16(src.r(i), src.m(i)), sf);
+    for (int i = 0; i < len; ++i)
+        dst[i] = magnitude16(sumsq16(src.r(i), src.m(i)), sf);
     return StatusOk;
 }
 
@@ -136,15 +139,18 @@ inline Tav16s power16(uint32_t sum, int sf)
 {
     if (sf < -14) return sum == 0 ? 0 : 32767;
     int64_t v;
-    if (sf <= 0) v = int64_t(uint64_t(sum) << -sf);
-    else v = tavs::rshift_rne(int64_t(sum), sf > 31 ? 31 : sf);
+    if (sf <= 0)
+        v = int64_t(uint64_t(sum) << -sf);
+    else
+        v = tavs::rshift_rne(int64_t(sum), sf > 31 ? 31 : sf);
     return Tav16s(v > 32767 ? 32767 : v);
 }
 
 template <class Pairs> Status power_16s(Pairs src, Tav16s* dst, int len, int sf)
 {
     if (Status st = src.check(len, dst)) return st;
-    for (int i = 0; i < len; ++i) dst[i] = power16(sumsq16(src.r(i), src.m(i)), sf);
+    for (int i = 0; i < len; ++i)
+        dst[i] = power16(sumsq16(src.r(i), src.m(i)), sf);
     return StatusOk;
 }
 
@@ -157,9 +163,12 @@ Status magsquared_32sc(const Tav32sc* src, Tav32s* dst, int len, int sf)
         const int64_t re = src[i].re, im = src[i].im;
         const uint64_t sum = uint64_t(re * re) + uint64_t(im * im);
         uint64_t v;
-        if (sf >= 0) v = sum >> sf;
-        else if (sf >= -30) v = sum >= (uint64_t(1) << 31) ? uint64_t(INT32_MAX) : sum << -sf;
-        else v = sum == 0 ? 0 : uint64_t(INT32_MAX);
+        if (sf >= 0)
+            v = sum >> sf;
+        else if (sf >= -30)
+            v = sum >= (uint64_t(1) << 31) ? uint64_t(INT32_MAX) : sum << -sf;
+        else
+            v = sum == 0 ? 0 : uint64_t(INT32_MAX);
         dst[i] = v > uint64_t(INT32_MAX) ? INT32_MAX : Tav32s(v);
     }
     return StatusOk;
@@ -184,7 +193,10 @@ Status tavsMagnitude_16s32f_body(const Tav16s* re, const Tav16s* im, Tav32f* dst
 {
     return magnitude_16s32f(pairs(re, im), dst, len);
 }
-Status tavsMagnitude_32fc_body(const Tav32fc* src, Tav32f* dst, int len) { return magnitude_32fc(src, dst, len); }
+Status tavsMagnitude_32fc_body(const Tav32fc* src, Tav32f* dst, int len)
+{
+    return magnitude_32fc(src, dst, len);
+}
 Status tavsMagnitude_64fc_body(const Tav64fc* src, Tav64f* dst, int len)
 {
     return magnitude_float(pairs(src), dst, len);

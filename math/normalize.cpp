@@ -18,7 +18,8 @@ template <class T> Status normalize_real(const T* src, T* dst, int len, T offset
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
     if (std::fabs(divisor) < T(kSmallestNormal)) return ErrDivByZero;
     const T r = T(1) / divisor;
-    for (int i = 0; i < len; ++i) dst[i] = (src[i] - offset) * r;
+    for (int i = 0; i < len; ++i)
+        dst[i] = (src[i] - offset) * r;
     return StatusOk;
 }
 
@@ -61,7 +62,8 @@ Status normalize_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s offset, int
     if (Status st = tavs::check_ptrs_len(len, src, dst)) return st;
     if (divisor == 0) return ErrDivByZero;
     const float r = int_reciprocal(divisor, sf);
-    for (int i = 0; i < len; ++i) dst[i] = to16(float(int32_t(src[i]) - offset) * r);
+    for (int i = 0; i < len; ++i)
+        dst[i] = to16(float(int32_t(src[i]) - offset) * r);
     return StatusOk;
 }
 
@@ -102,7 +104,8 @@ Status tavsNormalize_16s_Sfs_body(const Tav16s* src, Tav16s* dst, int len, Tav16
 {
     return normalize_16s(src, dst, len, offset, divisor, sf);
 }
-Status tavsNormalize_16sc_Sfs_body(const Tav16sc* src, Tav16sc* dst, int len, Tav16sc offset, int divisor, int sf)
+Status tavsNormalize_16sc_Sfs_body(const Tav16sc* src, Tav16sc* dst, int len, Tav16sc offset, int divisor,
+                                   int sf)
 {
     return normalize_16sc(src, dst, len, offset, divisor, sf);
 }

@@ -39,7 +39,8 @@ Status phase_32fc(const Tav32fc* src, Tav32f* dst, int len)
             re[k] = src[base + k].re;
             im[k] = src[base + k].im;
         }
-        for (int k = 0; k < n; ++k) dst[base + k] = float(atan2_for_float(im[k], re[k]));
+        for (int k = 0; k < n; ++k)
+            dst[base + k] = float(atan2_for_float(im[k], re[k]));
     }
     return StatusOk;
 }
@@ -81,7 +82,8 @@ template <class Pairs, class D> Status phase_fixed(Pairs src, D* dst, int len, i
     if (Status st = src.check(len, dst)) return st;
     if (sf > 1) return tavs::zero_fill(dst, len);
     const float s = float(std::pow(2.0, -double(sf)));
-    for (int i = 0; i < len; ++i) dst[i] = phase_fixed_one<D>(src.r(i), src.m(i), s);
+    for (int i = 0; i < len; ++i)
+        dst[i] = phase_fixed_one<D>(src.r(i), src.m(i), s);
     return StatusOk;
 }
 
@@ -111,7 +113,10 @@ Status tavsPhase_16s32f_body(const Tav16s* re, const Tav16s* im, Tav32f* dst, in
     return phase_to32f<true>(pairs(re, im), dst, len);
 }
 Status tavsPhase_32fc_body(const Tav32fc* src, Tav32f* dst, int len) { return phase_32fc(src, dst, len); }
-Status tavsPhase_64fc_body(const Tav64fc* src, Tav64f* dst, int len) { return phase_64f(pairs(src), dst, len); }
+Status tavsPhase_64fc_body(const Tav64fc* src, Tav64f* dst, int len)
+{
+    return phase_64f(pairs(src), dst, len);
+}
 Status tavsPhase_16sc_Sfs_body(const Tav16sc* src, Tav16s* dst, int len, int sf)
 {
     return phase_fixed(pairs(src), dst, len, sf);

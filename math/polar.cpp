@@ -23,7 +23,8 @@ inline void polar_one(double m, double p, double& re, double& im)
 template <class T> Status polar_split(const T* magn, const T* phase, T* re, T* im, int len)
 {
     if (Status st = tavs::check_ptrs_len(len, magn, phase, re, im)) return st;
-    for (int i = 0; i < len; ++i) polar_one(magn[i], phase[i], re[i], im[i]);
+    for (int i = 0; i < len; ++i)
+        polar_one(magn[i], phase[i], re[i], im[i]);
     return StatusOk;
 }
 
@@ -115,12 +116,13 @@ Status tavsPolarToCart_16sc_body(const Tav16s* magn, const Tav16s* phase, Tav16s
 {
     return polar_16sc(magn, phase, dst, len, magnSf, phaseSf);
 }
-Status tavsPolarToCart_16sc_Sfs_body(const Tav16s* magn, const Tav16s* phase, Tav16sc* dst, int len, int magnSf,
-                                     int phaseSf)
+Status tavsPolarToCart_16sc_Sfs_body(const Tav16s* magn, const Tav16s* phase, Tav16sc* dst, int len,
+                                     int magnSf, int phaseSf)
 {
     return polar_16sc(magn, phase, dst, len, magnSf, phaseSf);
 }
-Status tavsPolarToCart_32sc_body(const Tav32s* magn, const Tav32s* phase, Tav32u fixedPoint, Tav32sc* dst, int len)
+Status tavsPolarToCart_32sc_body(const Tav32s* magn, const Tav32s* phase, Tav32u fixedPoint, Tav32sc* dst,
+                                 int len)
 {
     return polar_32sc(magn, phase, fixedPoint, dst, len);
 }

@@ -173,7 +173,10 @@ Status tavsSqrt_32fc_I_body(Tav32fc* srcDst, int len) { return sqrt_complex<Tav3
 Status tavsSqrt_64fc_body(const Tav64fc* src, Tav64fc* dst, int len) { return sqrt_complex(src, dst, len); }
 Status tavsSqrt_64fc_I_body(Tav64fc* srcDst, int len) { return sqrt_complex<Tav64fc>(srcDst, srcDst, len); }
 
-Status tavsSqrt_8u_Sfs_body(const Tav8u* src, Tav8u* dst, int len, int sf) { return sqrt_int(src, dst, len, sf, k8u); }
+Status tavsSqrt_8u_Sfs_body(const Tav8u* src, Tav8u* dst, int len, int sf)
+{
+    return sqrt_int(src, dst, len, sf, k8u);
+}
 Status tavsSqrt_8u_ISfs_body(Tav8u* srcDst, int len, int sf)
 {
     return sqrt_int<Tav8u, Tav8u>(srcDst, srcDst, len, sf, k8u);
@@ -198,8 +201,14 @@ Status tavsSqrt_32s16s_Sfs_body(const Tav32s* src, Tav16s* dst, int len, int sf)
 {
     return sqrt_int(src, dst, len, sf, k32s16s);
 }
-Status tavsSqrt_16sc_Sfs_body(const Tav16sc* src, Tav16sc* dst, int len, int sf) { return sqrt_16sc(src, dst, len, sf); }
-Status tavsSqrt_16sc_ISfs_body(Tav16sc* srcDst, int len, int sf) { return sqrt_16sc(srcDst, srcDst, len, sf); }
+Status tavsSqrt_16sc_Sfs_body(const Tav16sc* src, Tav16sc* dst, int len, int sf)
+{
+    return sqrt_16sc(src, dst, len, sf);
+}
+Status tavsSqrt_16sc_ISfs_body(Tav16sc* srcDst, int len, int sf)
+{
+    return sqrt_16sc(srcDst, srcDst, len, sf);
+}
 Status tavsSqrt_64s16s_Sfs_body(const Tav64s* src, Tav16s* dst, int len, int sf)
 {
     return sqrt_int64(src, dst, len, sf, 32767);

@@ -18,8 +18,10 @@ uint64_t icbrt(uint64_t v)
     uint64_t lo = 0, hi = 1 << 22;
     while (lo < hi) {
         const uint64_t mid = (lo + hi + 1) / 2;
-        if (mid * mid * mid <= v) lo = mid;
-        else hi = mid - 1;
+        if (mid * mid * mid <= v)
+            lo = mid;
+        else
+            hi = mid - 1;
     }
     return lo;
 }
@@ -51,15 +53,18 @@ TEST(Cubrt, IntegerAgainstReference)
 {
     tt::Rng rng(61);
     std::vector<Tav32s> x(4000);
-    for (auto& v : x) v = rng.next() % 2 ? rng.element<Tav32s>() : Tav32s(rng.range(-100000, 100000));
-    for (int i = 0; i < 64; ++i) x[size_t(i)] = i * i * i + (i % 3) - 1; // around perfect cubes
+    for (auto& v : x)
+        v = rng.next() % 2 ? rng.element<Tav32s>() : Tav32s(rng.range(-100000, 100000));
+    for (int i = 0; i < 64; ++i)
+        x[size_t(i)] = i * i * i + (i % 3) - 1; // around perfect cubes
     x[64] = 0;
     x[65] = INT32_MIN;
     const int n = int(x.size());
     std::vector<Tav16s> y(x.size());
     for (int sf : {INT_MIN, -20, -15, -14, -10, -5, -1, 0, 1, 3, 10, 40, INT_MAX}) {
         ASSERT_EQ(tavsCubrt_32s16s_Sfs(x.data(), y.data(), n, sf), StatusOk);
-        for (int i = 0; i < n; ++i) ASSERT_EQ(y[size_t(i)], ref_cubrt(x[size_t(i)], sf)) << x[size_t(i)] << " sf " << sf;
+        for (int i = 0; i < n; ++i)
+            ASSERT_EQ(y[size_t(i)], ref_cubrt(x[size_t(i)], sf)) << x[size_t(i)] << " sf " << sf;
     }
     const Tav32s sat[2] = {1 << 3, -(1 << 3)}; // 8 << 42 = 2^45: saturates by sign
     Tav16s o[2];
@@ -72,17 +77,20 @@ TEST(Cubrt, FloatKeepsTheSign)
 {
     tt::Rng rng(62);
     std::vector<float> x(500), y(500);
-    for (auto& v : x) v = float(rng.uniform(-1e6, 1e6));
+    for (auto& v : x)
+        v = float(rng.uniform(-1e6, 1e6));
     x[0] = -27.0f;
     ASSERT_EQ(tavsCubrt_32f(x.data(), y.data(), 500), StatusOk);
     EXPECT_EQ(y[0], -3.0f);
-    for (int i = 0; i < 500; ++i) EXPECT_LE(mt::ulp_error(y[size_t(i)], std::cbrt((long double)x[size_t(i)])), 0.5001);
+    for (int i = 0; i < 500; ++i)
+        EXPECT_LE(mt::ulp_error(y[size_t(i)], std::cbrt((long double)x[size_t(i)])), 0.5001);
 }
 
 TEST(Arctan, FloatSweepWithin1Ulp)
 {
     std::vector<float> x;
-    for (uint32_t b = 0; b < 0x7F800000u; b += 4099u * mt::kSlow) x.push_back(mt::f32(b)), x.push_back(-mt::f32(b));
+    for (uint32_t b = 0; b < 0x7F800000u; b += 4099u * mt::kSlow)
+        x.push_back(mt::f32(b)), x.push_back(-mt::f32(b));
     std::vector<float> y(x.size());
     ASSERT_EQ(tavsArctan_32f(x.data(), y.data(), int(x.size())), StatusOk);
     double worst = 0;
@@ -97,10 +105,12 @@ TEST(Arctan, DoubleWithin1Ulp)
     tt::Rng rng(63);
     const int n = 100000 / mt::kSlow;
     std::vector<double> x(static_cast<size_t>(n)), y(static_cast<size_t>(n));
-    for (auto& v : x) v = std::ldexp(rng.uniform(-1, 1), int(rng.range(-30, 30)));
+    for (auto& v : x)
+        v = std::ldexp(rng.uniform(-1, 1), int(rng.range(-30, 30)));
     ASSERT_EQ(tavsArctan_64f(x.data(), y.data(), n), StatusOk);
     double worst = 0;
-    for (int i = 0; i < n; ++i) worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::atan((long double)x[size_t(i)])));
+    for (int i = 0; i < n; ++i)
+        worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::atan((long double)x[size_t(i)])));
     std::printf("Arctan_64f: max error %.3f ulp\n", worst);
     EXPECT_LE(worst, 1.0);
 }
@@ -119,17 +129,21 @@ TEST(Arctan, SpecialValuesShortCallsAndTail)
     EXPECT_EQ(y[7], -1e-30f);
     for (int len = 1; len <= 11; ++len) {
         std::vector<double> v(static_cast<size_t>(len)), o(static_cast<size_t>(len));
-        for (int i = 0; i < len; ++i) v[size_t(i)] = 0.37 * (i + 1) - 1.3;
+        for (int i = 0; i < len; ++i)
+            v[size_t(i)] = 0.37 * (i + 1) - 1.3;
         ASSERT_EQ(tavsArctan_64f(v.data(), o.data(), len), StatusOk);
         const int grouped = len >= 4 ? len & ~3 : 0;
-        for (int i = grouped; i < len; ++i) EXPECT_TRUE(tt::same_bits(o[size_t(i)], std::atan(v[size_t(i)])));
-        for (int i = 0; i < grouped; ++i) EXPECT_LE(mt::ulp_error(o[size_t(i)], std::atan((long double)v[size_t(i)])), 1.0);
+        for (int i = grouped; i < len; ++i)
+            EXPECT_TRUE(tt::same_bits(o[size_t(i)], std::atan(v[size_t(i)])));
+        for (int i = 0; i < grouped; ++i)
+            EXPECT_LE(mt::ulp_error(o[size_t(i)], std::atan((long double)v[size_t(i)])), 1.0);
         std::vector<double> io = v;
         ASSERT_EQ(tavsArctan_64f_I(io.data(), len), StatusOk);
         EXPECT_EQ(0, std::memcmp(io.data(), o.data(), size_t(len) * 8));
         std::vector<float> f(v.begin(), v.end()), fo(static_cast<size_t>(len));
         ASSERT_EQ(tavsArctan_32f(f.data(), fo.data(), len), StatusOk);
-        for (int i = grouped; i < len; ++i) EXPECT_TRUE(tt::same_bits(fo[size_t(i)], float(std::atan(double(f[size_t(i)])))));
+        for (int i = grouped; i < len; ++i)
+            EXPECT_TRUE(tt::same_bits(fo[size_t(i)], float(std::atan(double(f[size_t(i)])))));
         ASSERT_EQ(tavsArctan_32f_I(f.data(), len), StatusOk);
         EXPECT_EQ(0, std::memcmp(f.data(), fo.data(), size_t(len) * 4));
     }

@@ -77,11 +77,13 @@ std::vector<float> ref_exp32(const std::vector<float>& x)
         if (cnt == 4) {
             float o[4];
             ref_group32(g, o);
-            for (int k = 0; k < 4; ++k) y[gi[k]] = o[k];
+            for (int k = 0; k < 4; ++k)
+                y[gi[k]] = o[k];
             cnt = 0;
         }
     }
-    for (int k = 0; k < cnt; ++k) y[gi[k]] = float(std::exp(double(g[k])));
+    for (int k = 0; k < cnt; ++k)
+        y[gi[k]] = float(std::exp(double(g[k])));
     return y;
 }
 
@@ -107,9 +109,10 @@ void ref_group64(const double* x, double* out)
         lo[k] = n * 1.9082149292705877e-10;
         r[k] = hi[k] - lo[k];
         const double q = r[k] * r[k];
-        const double P = 0.16666666666666602 +
-                         q * (-0.0027777777777015593 +
-                              q * (6.613756321437934e-5 + q * (-1.6533902205465252e-6 + q * 4.1381367970572385e-8)));
+        const double P =
+            0.16666666666666602 +
+            q * (-0.0027777777777015593 +
+                 q * (6.613756321437934e-5 + q * (-1.6533902205465252e-6 + q * 4.1381367970572385e-8)));
         c[k] = r[k] - q * P;
         D[k] = 2.0 - c[k];
     }
@@ -127,7 +130,8 @@ std::vector<double> ref_exp64(const std::vector<double>& x)
     const int len = int(x.size());
     std::vector<double> y(x.size());
     if (len < 4) {
-        for (int i = 0; i < len; ++i) y[i] = std::exp(x[i]);
+        for (int i = 0; i < len; ++i)
+            y[i] = std::exp(x[i]);
         return y;
     }
     double g[4];
@@ -143,11 +147,13 @@ std::vector<double> ref_exp64(const std::vector<double>& x)
         if (cnt == 4) {
             double o[4];
             ref_group64(g, o);
-            for (int k = 0; k < 4; ++k) y[gi[k]] = o[k];
+            for (int k = 0; k < 4; ++k)
+                y[gi[k]] = o[k];
             cnt = 0;
         }
     }
-    for (int k = 0; k < cnt; ++k) y[gi[k]] = std::exp(g[k]);
+    for (int k = 0; k < cnt; ++k)
+        y[gi[k]] = std::exp(g[k]);
     return y;
 }
 
@@ -155,8 +161,9 @@ std::vector<double> ref_exp64(const std::vector<double>& x)
 // thresholds and their neighbours, infinities and NaNs.
 float pick32(tt::Rng& r)
 {
-    static const uint32_t specials[] = {0x00000000u, 0x80000000u, 0x00000001u, 0x807FFFFFu, 0xC2AEAC50u, 0xC2AEAC4Fu,
-                                        0x42B17218u, 0x42B17217u, 0x7F800000u, 0xFF800000u, 0x7FC00000u, 0xFFC00001u,
+    static const uint32_t specials[] = {0x00000000u, 0x80000000u, 0x00000001u, 0x807FFFFFu,
+                                        0xC2AEAC50u, 0xC2AEAC4Fu, 0x42B17218u, 0x42B17217u,
+                                        0x7F800000u, 0xFF800000u, 0x7FC00000u, 0xFFC00001u,
                                         0x7F800001u, 0x00800000u, 0x3F800000u, 0xBF800000u};
     if (r.next() % 6 == 0) return mt::f32(specials[r.next() % (sizeof specials / 4)]);
     return float(r.uniform(-95.0, 95.0));
@@ -200,8 +207,14 @@ TEST(Exp32f, DocumentedEdges)
 
 TEST(Exp32f, TriageThresholdsAndNaNs)
 {
-    const float x[8] = {mt::f32(0xC2AEAC50u), mt::f32(0xC2AEAC4Fu), mt::f32(0x42B17218u), mt::f32(0x42B17217u),
-                        mt::f32(0xFFC01234u), mt::f32(0x7FC01234u), -INFINITY, mt::f32(0x807FFFFFu)};
+    const float x[8] = {mt::f32(0xC2AEAC50u),
+                        mt::f32(0xC2AEAC4Fu),
+                        mt::f32(0x42B17218u),
+                        mt::f32(0x42B17217u),
+                        mt::f32(0xFFC01234u),
+                        mt::f32(0x7FC01234u),
+                        -INFINITY,
+                        mt::f32(0x807FFFFFu)};
     float y[8];
     ASSERT_EQ(tavsExp_32f(x, y, 8), StatusOk);
     EXPECT_EQ(y[0], 0.0f);
@@ -222,7 +235,8 @@ TEST(Exp32f, BitExactAgainstTheStepsAllLengthsAndOffsets)
     for (int len = 0; len <= 70; ++len)
         for (int off = 0; off < 16; ++off) {
             std::vector<float> x(static_cast<size_t>(len));
-            for (auto& v : x) v = pick32(rng);
+            for (auto& v : x)
+                v = pick32(rng);
             tt::Guarded<float> dst(size_t(len), size_t(off) * 4);
             const float one = 1.0f;
             const Status st = tavsExp_32f(len ? x.data() : &one, dst.data(), len);
@@ -285,7 +299,8 @@ TEST(Exp32f, OwnRoundingInsideCallersStateKept)
 {
     tt::Rng rng(5);
     std::vector<float> x(64);
-    for (auto& v : x) v = float(rng.uniform(-80, 80));
+    for (auto& v : x)
+        v = float(rng.uniform(-80, 80));
     std::vector<float> a(64), b(64);
     ASSERT_EQ(tavsExp_32f(x.data(), a.data(), 64), StatusOk);
     for (int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO})
@@ -295,7 +310,8 @@ TEST(Exp32f, OwnRoundingInsideCallersStateKept)
         });
     // The batch runs with its own settings, so the caller's direction does
     // not move a bit of the grouped results (the last 1..3 are libm's).
-    for (int i = 3; i < 64; ++i) EXPECT_TRUE(tt::same_bits(a[i], b[i])) << i;
+    for (int i = 3; i < 64; ++i)
+        EXPECT_TRUE(tt::same_bits(a[i], b[i])) << i;
 }
 
 TEST(Exp32f, Errors)
@@ -326,10 +342,14 @@ TEST(Exp64f, DocumentedEdges)
 
 TEST(Exp64f, TriageAndBoundaries)
 {
-    const double x[8] = {mt::f64(0x40862E42FEFA39E6ull), mt::f64(0x40862E42FEFA39E5ull),
-                         mt::f64(0xC086232BDD7ABCD2ull), mt::f64(0xC086232BDD7ABCD1ull),
-                         mt::f64(0xFFF0000000001234ull), mt::f64(0x7FF0000000001234ull),
-                         709.0, -INFINITY};
+    const double x[8] = {mt::f64(0x40862E42FEFA39E6ull),
+                         mt::f64(0x40862E42FEFA39E5ull),
+                         mt::f64(0xC086232BDD7ABCD2ull),
+                         mt::f64(0xC086232BDD7ABCD1ull),
+                         mt::f64(0xFFF0000000001234ull),
+                         mt::f64(0x7FF0000000001234ull),
+                         709.0,
+                         -INFINITY};
     double y[8];
     ASSERT_EQ(tavsExp_64f(x, y, 8), StatusOk);
     EXPECT_EQ(y[0], INFINITY);
@@ -350,7 +370,8 @@ TEST(Exp64f, BitExactAgainstTheStepsAllLengthsAndOffsets)
     for (int len = 1; len <= 70; ++len)
         for (int off = 0; off < 16; ++off) {
             std::vector<double> x(static_cast<size_t>(len));
-            for (auto& v : x) v = pick64(rng);
+            for (auto& v : x)
+                v = pick64(rng);
             tt::Guarded<double> dst(size_t(len), size_t(off) * 8);
             ASSERT_EQ(tavsExp_64f(x.data(), dst.data(), len), StatusOk);
             ASSERT_TRUE(same(ref_exp64(x), dst.data())) << "len " << len;
@@ -366,11 +387,14 @@ TEST(Exp64f, AccuracyWithin1p5Ulp)
     tt::Rng rng(13);
     const int n = 200000 / mt::kSlow;
     std::vector<double> x(static_cast<size_t>(n)), y(static_cast<size_t>(n));
-    for (auto& v : x) v = rng.uniform(-708.39, 709.78);
-    for (int i = 0; i < 64; ++i) x[size_t(i)] = rng.uniform(-1e-3, 1e-3);
+    for (auto& v : x)
+        v = rng.uniform(-708.39, 709.78);
+    for (int i = 0; i < 64; ++i)
+        x[size_t(i)] = rng.uniform(-1e-3, 1e-3);
     ASSERT_EQ(tavsExp_64f(x.data(), y.data(), n), StatusOk);
     double worst = 0;
-    for (int i = 0; i < n; ++i) worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::exp((long double)x[size_t(i)])));
+    for (int i = 0; i < n; ++i)
+        worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::exp((long double)x[size_t(i)])));
     std::printf("Exp_64f: max error %.3f ulp\n", worst);
     ::testing::Test::RecordProperty("exp64f_max_ulp", std::to_string(worst));
     EXPECT_LE(worst, 1.5); // the shared reciprocal adds a fraction of an ulp
@@ -381,11 +405,14 @@ TEST(Exp32f64f, IsThe64fEvaluationOfWidenedInputs)
     tt::Rng rng(14);
     for (int len : {1, 2, 3, 4, 5, 17, 64}) {
         std::vector<float> x(static_cast<size_t>(len));
-        for (auto& v : x) v = pick32(rng);
-        std::vector<double> wide(x.begin(), x.end()), ref(static_cast<size_t>(len)), y(static_cast<size_t>(len));
+        for (auto& v : x)
+            v = pick32(rng);
+        std::vector<double> wide(x.begin(), x.end()), ref(static_cast<size_t>(len)),
+            y(static_cast<size_t>(len));
         ASSERT_EQ(tavsExp_64f(wide.data(), ref.data(), len), StatusOk);
         ASSERT_EQ(tavsExp_32f64f(x.data(), y.data(), len), StatusOk);
-        for (int i = 0; i < len; ++i) EXPECT_TRUE(tt::same_bits(y[size_t(i)], ref[size_t(i)])) << i;
+        for (int i = 0; i < len; ++i)
+            EXPECT_TRUE(tt::same_bits(y[size_t(i)], ref[size_t(i)])) << i;
     }
 }
 

@@ -26,8 +26,10 @@ struct QuadPowers {
             e += term;
         }
         pos[0] = neg[0] = 1;
-        for (int k = 1; k <= 80; ++k) pos[k] = pos[k - 1] * e;
-        for (int k = 1; k <= 60; ++k) neg[k] = neg[k - 1] / e;
+        for (int k = 1; k <= 80; ++k)
+            pos[k] = pos[k - 1] * e;
+        for (int k = 1; k <= 60; ++k)
+            neg[k] = neg[k - 1] / e;
     }
     quad at(int x) const { return x >= 0 ? pos[x] : neg[-x]; }
 };
@@ -41,8 +43,10 @@ const QuadPowers& qp()
 int64_t rule(int x, int sf, int64_t maxv)
 {
     quad v = qp().at(x);
-    for (int i = 0; i < sf; ++i) v /= 2;
-    for (int i = 0; i < -sf; ++i) v *= 2;
+    for (int i = 0; i < sf; ++i)
+        v /= 2;
+    for (int i = 0; i < -sf; ++i)
+        v *= 2;
     v += quad(0.5);
     if (v >= quad(maxv) + 1) return maxv;
     return int64_t(v);
@@ -67,18 +71,23 @@ TEST(ExpInt, DocumentedEdges)
 TEST(ExpInt, Every16sInputEveryTableRowAndTheDoublePath)
 {
     std::vector<Tav16s> x(65536), y(65536);
-    for (int i = 0; i < 65536; ++i) x[size_t(i)] = Tav16s(i - 32768);
+    for (int i = 0; i < 65536; ++i)
+        x[size_t(i)] = Tav16s(i - 32768);
     std::vector<int> sfs;
-    for (int sf = -16; sf <= 16; ++sf) sfs.push_back(sf);
-    for (int sf : {-17, -20, -40, -1100, INT_MIN, 17, 20, 40, 1100, INT_MAX}) sfs.push_back(sf);
+    for (int sf = -16; sf <= 16; ++sf)
+        sfs.push_back(sf);
+    for (int sf : {-17, -20, -40, -1100, INT_MIN, 17, 20, 40, 1100, INT_MAX})
+        sfs.push_back(sf);
     for (int sf : sfs) {
         ASSERT_EQ(tavsExp_16s_Sfs(x.data(), y.data(), 65536, sf), StatusOk);
         const bool table = sf >= -16 && sf <= 16;
         for (int i = 0; i < 65536; i += (table ? 1 : 7)) {
             const int xv = i - 32768;
             int64_t ref;
-            if (table) ref = xv > 60 ? 32767 : (xv < -45 ? 0 : rule(xv, sf, 32767));
-            else ref = double_path(xv, sf, 32767);
+            if (table)
+                ref = xv > 60 ? 32767 : (xv < -45 ? 0 : rule(xv, sf, 32767));
+            else
+                ref = double_path(xv, sf, 32767);
             ASSERT_EQ(y[size_t(i)], ref) << "x " << xv << " sf " << sf;
         }
     }
@@ -91,10 +100,13 @@ TEST(ExpInt, Every16sInputEveryTableRowAndTheDoublePath)
 TEST(ExpInt, Exp32sTableDomainAndOutside)
 {
     std::vector<Tav32s> x;
-    for (int v = -60; v <= 80; ++v) x.push_back(v);
-    for (Tav32s v : {INT32_MIN, INT32_MIN + 1, -100000, 100000, INT32_MAX}) x.push_back(v);
+    for (int v = -60; v <= 80; ++v)
+        x.push_back(v);
+    for (Tav32s v : {INT32_MIN, INT32_MIN + 1, -100000, 100000, INT32_MAX})
+        x.push_back(v);
     tt::Rng rng(3);
-    for (int i = 0; i < 200; ++i) x.push_back(rng.element<Tav32s>());
+    for (int i = 0; i < 200; ++i)
+        x.push_back(rng.element<Tav32s>());
     const int len = int(x.size());
     std::vector<Tav32s> y(x.size());
     for (int sf = -40; sf <= 40; ++sf) {
@@ -103,14 +115,17 @@ TEST(ExpInt, Exp32sTableDomainAndOutside)
         for (int i = 0; i < len; ++i) {
             const int64_t xv = x[size_t(i)];
             int64_t ref;
-            if (table) ref = xv > 80 ? INT32_MAX : (xv < -60 ? 0 : rule(int(xv), sf, INT32_MAX));
-            else ref = double_path(xv, sf, INT32_MAX);
+            if (table)
+                ref = xv > 80 ? INT32_MAX : (xv < -60 ? 0 : rule(int(xv), sf, INT32_MAX));
+            else
+                ref = double_path(xv, sf, INT32_MAX);
             ASSERT_EQ(y[size_t(i)], ref) << "x " << xv << " sf " << sf;
         }
     }
     for (int sf : {INT_MIN, -1100, 1100, INT_MAX}) {
         ASSERT_EQ(tavsExp_32s_Sfs(x.data(), y.data(), len, sf), StatusOk);
-        for (int i = 0; i < len; ++i) ASSERT_EQ(y[size_t(i)], double_path(x[size_t(i)], sf, INT32_MAX));
+        for (int i = 0; i < len; ++i)
+            ASSERT_EQ(y[size_t(i)], double_path(x[size_t(i)], sf, INT32_MAX));
     }
     std::vector<Tav32s> io = x;
     ASSERT_EQ(tavsExp_32s_ISfs(io.data(), len, -5), StatusOk);
@@ -121,8 +136,10 @@ TEST(ExpInt, Exp32sTableDomainAndOutside)
 TEST(ExpInt, Exp64sRowsAndTheTruncatingPath)
 {
     std::vector<Tav64s> x;
-    for (int v = -50; v <= 60; ++v) x.push_back(v);
-    for (Tav64s v : {Tav64s(INT64_MIN), Tav64s(-1000000), Tav64s(1000000), Tav64s(INT64_MAX)}) x.push_back(v);
+    for (int v = -50; v <= 60; ++v)
+        x.push_back(v);
+    for (Tav64s v : {Tav64s(INT64_MIN), Tav64s(-1000000), Tav64s(1000000), Tav64s(INT64_MAX)})
+        x.push_back(v);
     const int len = int(x.size());
     std::vector<Tav64s> y(x.size());
     auto row = [](int64_t k) { return rule(int(k), 0, INT64_MAX); };

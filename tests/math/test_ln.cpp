@@ -88,11 +88,13 @@ TEST(Ln64f32f, BatchedWithin1UlpAndDenormalsAsZero)
         const uint64_t exp = 1 + rng.next() % 2046;
         v = mt::f64((exp << 52) | (rng.next() & 0x000FFFFFFFFFFFFFull));
     }
-    for (int i = 0; i < 64; ++i) x[size_t(i)] = 1.0 + rng.uniform(-1e-3, 1e-3); // near 1: relative accuracy
+    for (int i = 0; i < 64; ++i)
+        x[size_t(i)] = 1.0 + rng.uniform(-1e-3, 1e-3); // near 1: relative accuracy
     std::vector<float> y(static_cast<size_t>(n));
     ASSERT_EQ(tavsLn_64f32f(x.data(), y.data(), n), StatusOk);
     double worst = 0;
-    for (int i = 0; i < n; ++i) worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::log((long double)x[size_t(i)])));
+    for (int i = 0; i < n; ++i)
+        worst = std::max(worst, mt::ulp_error(y[size_t(i)], std::log((long double)x[size_t(i)])));
     std::printf("Ln_64f32f: max error %.3f ulp\n", worst);
     EXPECT_LE(worst, 1.0);
 

@@ -29,7 +29,8 @@ int ref_ln16(int x, int sf)
     if (sf == -1) {
         if (x <= 181) return ladder(uint64_t(x) * uint64_t(x));
         int k = 0;
-        while ((x >> k) > 181) ++k;
+        while ((x >> k) > 181)
+            ++k;
         const uint64_t h = uint64_t(x >> k);
         return ladder(h * h) + ladder(uint64_t(1) << (2 * k));
     }
@@ -44,11 +45,12 @@ int ref_ln16(int x, int sf)
 
 TEST(LnInt, DocumentedLadderThresholds)
 {
-    const int64_t from[22] = {0,        2,        5,         13,        34,        91,        245,      666,
-                              1809,     4915,     13360,     36316,     98716,     268338,    729417,   1982760,
-                              5389699,  14650720, 39824785,  108254988, 294267567, 799902178};
+    const int64_t from[22] = {0,       2,        5,        13,        34,        91,       245,    666,
+                              1809,    4915,     13360,    36316,     98716,     268338,   729417, 1982760,
+                              5389699, 14650720, 39824785, 108254988, 294267567, 799902178};
     std::vector<Tav32s> x;
-    for (int k = 1; k <= 21; ++k) x.push_back(Tav32s(from[k] - 1)), x.push_back(Tav32s(from[k]));
+    for (int k = 1; k <= 21; ++k)
+        x.push_back(Tav32s(from[k] - 1)), x.push_back(Tav32s(from[k]));
     std::vector<Tav32s> y(x.size());
     ASSERT_EQ(tavsLn_32s_Sfs(x.data(), y.data(), int(x.size()), 0), StatusOk);
     for (int k = 1; k <= 21; ++k) {
@@ -57,14 +59,16 @@ TEST(LnInt, DocumentedLadderThresholds)
     }
     std::vector<Tav16s> y16(x.size());
     ASSERT_EQ(tavsLn_32s16s_Sfs(x.data(), y16.data(), int(x.size()), 0), StatusOk);
-    for (size_t i = 0; i < x.size(); ++i) EXPECT_EQ(y16[i], y[i]);
+    for (size_t i = 0; i < x.size(); ++i)
+        EXPECT_EQ(y16[i], y[i]);
     // scale factor 1 of the 16-bit form: 0 below 3, 1 below 21, 2 below 149,
     // 3 below 1097, 4 below 8104, 5 from there on; 3: 1 from 55; 4: 1 from 2981
     const Tav16s s[12] = {2, 3, 20, 21, 148, 149, 1096, 1097, 8103, 8104, 32767, 1};
     Tav16s o[12];
     ASSERT_EQ(tavsLn_16s_Sfs(s, o, 12, 1), StatusOk);
     const Tav16s want[12] = {0, 1, 1, 2, 2, 3, 3, 4, 4, 5, 5, 0};
-    for (int i = 0; i < 12; ++i) EXPECT_EQ(o[i], want[i]) << s[i];
+    for (int i = 0; i < 12; ++i)
+        EXPECT_EQ(o[i], want[i]) << s[i];
     const Tav16s t3[4] = {54, 55, 2980, 2981};
     ASSERT_EQ(tavsLn_16s_Sfs(t3, o, 4, 3), StatusOk);
     EXPECT_EQ(o[0], 0);
@@ -87,7 +91,8 @@ TEST(LnInt, DocumentedEdges)
 TEST(LnInt, Every16sInput)
 {
     std::vector<Tav16s> x(65536), y(65536);
-    for (int i = 0; i < 65536; ++i) x[size_t(i)] = Tav16s(i - 32768);
+    for (int i = 0; i < 65536; ++i)
+        x[size_t(i)] = Tav16s(i - 32768);
     for (int sf : {INT_MIN, -40, -16, -15, -14, -13, -8, -2, -1, 0, 1, 2, 3, 4, 5, 6, 31, INT_MAX}) {
         const Status st = tavsLn_16s_Sfs(x.data(), y.data(), 65536, sf);
         EXPECT_EQ(st, WarnLnNegative); // -32768 comes first
@@ -101,7 +106,8 @@ TEST(LnInt, Every16sInput)
     EXPECT_EQ(tavsLn_16s_Sfs(x.data(), y.data(), 65536, -1), WarnLnNegative);
     EXPECT_EQ(io, y);
     io = x;
-    EXPECT_EQ(tavsLn_16s_Sfs(io.data(), io.data(), 65536, -1), WarnLnNegative); // equal pointers: the in-place form
+    EXPECT_EQ(tavsLn_16s_Sfs(io.data(), io.data(), 65536, -1),
+              WarnLnNegative); // equal pointers: the in-place form
     EXPECT_EQ(io, y);
 }
 
@@ -109,7 +115,8 @@ TEST(LnInt, Ln32sAnd32s16sRandom)
 {
     tt::Rng rng(31);
     std::vector<Tav32s> x(4000);
-    for (auto& v : x) v = rng.next() % 3 ? Tav32s(rng.range(1, INT32_MAX)) : Tav32s(rng.range(1, 100000));
+    for (auto& v : x)
+        v = rng.next() % 3 ? Tav32s(rng.range(1, INT32_MAX)) : Tav32s(rng.range(1, 100000));
     x[0] = INT32_MAX;
     x[1] = 1;
     std::vector<Tav32s> y(x.size());
@@ -122,15 +129,22 @@ TEST(LnInt, Ln32sAnd32s16sRandom)
             const Tav32s v = x[size_t(i)];
             const long double l = std::log((long double)v);
             int64_t r32;
-            if (sf < 0) r32 = v == 1 ? 0 : widened(std::log(double(v)) * std::pow(2.0, -double(sf)), 2147483647.0);
-            else r32 = ladder(uint64_t(v)) >> (sf & 31);
+            if (sf < 0)
+                r32 = v == 1 ? 0 : widened(std::log(double(v)) * std::pow(2.0, -double(sf)), 2147483647.0);
+            else
+                r32 = ladder(uint64_t(v)) >> (sf & 31);
             ASSERT_EQ(y[size_t(i)], r32) << v << " sf " << sf;
             int64_t r16;
-            if (sf >= 1) r16 = std::lround(l / std::ldexp(1.0L, sf > 40 ? 40 : sf));
-            else if (sf == 0) r16 = ladder(uint64_t(v));
-            else if (sf >= -14) r16 = widened(std::pow(2.0, -sf) * std::log(double(v)), 32767.0);
-            else if (sf == -15) r16 = v == 1 ? 0 : (v == 2 ? 22713 : 32767);
-            else r16 = v == 1 ? 0 : 32767;
+            if (sf >= 1)
+                r16 = std::lround(l / std::ldexp(1.0L, sf > 40 ? 40 : sf));
+            else if (sf == 0)
+                r16 = ladder(uint64_t(v));
+            else if (sf >= -14)
+                r16 = widened(std::pow(2.0, -sf) * std::log(double(v)), 32767.0);
+            else if (sf == -15)
+                r16 = v == 1 ? 0 : (v == 2 ? 22713 : 32767);
+            else
+                r16 = v == 1 ? 0 : 32767;
             ASSERT_EQ(y16[size_t(i)], r16) << v << " sf " << sf;
         }
     }
@@ -163,7 +177,8 @@ int ref_db(Tav32s x)
     if (x <= 14) return small[x];
     static const std::vector<long double> above = [] { // 10^((k - 0.5)/10) for k = 14, 16, ... 92, 93
         std::vector<long double> v;
-        for (int j = 14; j <= 92; j += 2) v.push_back(std::pow(10.0L, (j - 0.5L) / 10));
+        for (int j = 14; j <= 92; j += 2)
+            v.push_back(std::pow(10.0L, (j - 0.5L) / 10));
         v.push_back(std::pow(10.0L, 9.25L));
         return v;
     }();
@@ -176,23 +191,28 @@ int ref_db(Tav32s x)
 
 TEST(Decibel, DocumentedLadder)
 {
-    const Tav32s x[14] = {1000, 2000, 22, 23, 35, 36, 57, 90, 142, 1412537544, 1412537545, 1778279410, 1778279411, 7};
+    const Tav32s x[14] = {1000, 2000, 22,         23,         35,         36,         57,
+                          90,   142,  1412537544, 1412537545, 1778279410, 1778279411, 7};
     const Tav32s want[14] = {30, 32, 12, 14, 14, 16, 18, 20, 22, 90, 92, 92, 93, 9};
     Tav32s y[14];
     ASSERT_EQ(tavs10Log10_32s_Sfs(x, y, 14, 0), StatusOk);
-    for (int i = 0; i < 14; ++i) EXPECT_EQ(y[i], want[i]) << x[i];
+    for (int i = 0; i < 14; ++i)
+        EXPECT_EQ(y[i], want[i]) << x[i];
     Tav32s small[14], ys[14];
-    for (int i = 0; i < 14; ++i) small[i] = i + 1;
+    for (int i = 0; i < 14; ++i)
+        small[i] = i + 1;
     ASSERT_EQ(tavs10Log10_32s_Sfs(small, ys, 14, 0), StatusOk);
     const Tav32s wantSmall[14] = {0, 3, 5, 6, 7, 8, 9, 9, 10, 10, 10, 11, 11, 11};
-    for (int i = 0; i < 14; ++i) EXPECT_EQ(ys[i], wantSmall[i]);
+    for (int i = 0; i < 14; ++i)
+        EXPECT_EQ(ys[i], wantSmall[i]);
 }
 
 TEST(Decibel, RandomAgainstTheRule)
 {
     tt::Rng rng(41);
     std::vector<Tav32s> x(5000);
-    for (auto& v : x) v = Tav32s(rng.next() % 2 ? rng.range(1, INT32_MAX) : std::exp(rng.uniform(0, 21.4)));
+    for (auto& v : x)
+        v = Tav32s(rng.next() % 2 ? rng.range(1, INT32_MAX) : std::exp(rng.uniform(0, 21.4)));
     x[0] = INT32_MAX;
     const int n = int(x.size());
     std::vector<Tav32s> y(x.size());
@@ -202,8 +222,11 @@ TEST(Decibel, RandomAgainstTheRule)
             const Tav32s v = x[size_t(i)];
             int64_t r;
             if (sf < 0)
-                r = v == 1 ? 0 : widened(4.342944819032518 * std::pow(2.0, -double(sf)) * std::log(double(v)), 2147483647.0);
-            else r = ref_db(v) >> (sf & 31);
+                r = v == 1 ? 0
+                           : widened(4.342944819032518 * std::pow(2.0, -double(sf)) * std::log(double(v)),
+                                     2147483647.0);
+            else
+                r = ref_db(v) >> (sf & 31);
             ASSERT_EQ(y[size_t(i)], r) << v << " sf " << sf;
         }
     }

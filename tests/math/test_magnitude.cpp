@@ -12,12 +12,14 @@
 
 namespace {
 
-const int kSfs[] = {INT_MIN, -40, -31, -30, -16, -15, -14, -13, -5, -1, 0, 1, 2, 9, 16, 17, 31, 32, 40, 63, 64, INT_MAX};
+const int kSfs[] = {INT_MIN, -40, -31, -30, -16, -15, -14, -13, -5, -1, 0,
+                    1,       2,   9,   16,  17,  31,  32,  40,  63, 64, INT_MAX};
 
 std::vector<Tav16sc> pairs16(tt::Rng& rng, int n)
 {
     std::vector<Tav16sc> v(static_cast<size_t>(n));
-    for (auto& p : v) p = {rng.element<Tav16s>(), rng.element<Tav16s>()};
+    for (auto& p : v)
+        p = {rng.element<Tav16s>(), rng.element<Tav16s>()};
     v[0] = {-32768, -32768};
     v[1] = {0, 0};
     v[2] = {3, 4};
@@ -38,8 +40,9 @@ TEST(MagnitudeFloat, BitExactOverLengthsAndOffsets)
                 im[size_t(i)] = float(rng.uniform(-1e3, 1e3));
                 c[size_t(i)] = {re[size_t(i)], im[size_t(i)]};
             }
-            tt::Guarded<float> a(static_cast<size_t>(len), size_t(off) * 4), b(static_cast<size_t>(len), size_t(off) * 4),
-                p(static_cast<size_t>(len), size_t(off) * 4), q(static_cast<size_t>(len), size_t(off) * 4);
+            tt::Guarded<float> a(static_cast<size_t>(len), size_t(off) * 4),
+                b(static_cast<size_t>(len), size_t(off) * 4), p(static_cast<size_t>(len), size_t(off) * 4),
+                q(static_cast<size_t>(len), size_t(off) * 4);
             ASSERT_EQ(tavsMagnitude_32f(re.data(), im.data(), a.data(), len), StatusOk);
             ASSERT_EQ(tavsMagnitude_32fc(c.data(), b.data(), len), StatusOk);
             ASSERT_EQ(tavsPowerSpectr_32f(re.data(), im.data(), p.data(), len), StatusOk);
@@ -95,7 +98,8 @@ TEST(Magnitude16s, FloatDestinations)
     const int n = 2000;
     auto c = pairs16(rng, n);
     std::vector<Tav16s> re(n), im(n);
-    for (int i = 0; i < n; ++i) re[size_t(i)] = c[size_t(i)].re, im[size_t(i)] = c[size_t(i)].im;
+    for (int i = 0; i < n; ++i)
+        re[size_t(i)] = c[size_t(i)].re, im[size_t(i)] = c[size_t(i)].im;
     std::vector<float> a(n), b(n), p(n), q(n);
     ASSERT_EQ(tavsMagnitude_16s32f(re.data(), im.data(), a.data(), n), StatusOk);
     ASSERT_EQ(tavsMagnitude_16sc32f(c.data(), b.data(), n), StatusOk);
@@ -120,10 +124,13 @@ int64_t ref_exact_root(uint64_t sum, int sf)
     uint64_t lo = 0, hi = 1 << 17;
     while (lo < hi) {
         const uint64_t mid = (lo + hi + 1) / 2;
-        if ((unsigned __int128)(mid << sf) * (mid << sf) <= sum) lo = mid;
-        else hi = mid - 1;
+        if ((unsigned __int128)(mid << sf) * (mid << sf) <= sum)
+            lo = mid;
+        else
+            hi = mid - 1;
     }
-    const unsigned __int128 h = (unsigned __int128)((2 * lo + 1) << sf) * ((2 * lo + 1) << sf), s4 = (unsigned __int128)sum * 4;
+    const unsigned __int128 h = (unsigned __int128)((2 * lo + 1) << sf) * ((2 * lo + 1) << sf),
+                            s4 = (unsigned __int128)sum * 4;
     if (s4 > h || (s4 == h && (lo & 1))) ++lo;
     return std::min<int64_t>(int64_t(lo), 32767);
 }
@@ -156,7 +163,8 @@ TEST(Magnitude16s, ScaledForms)
     const int n = 20000 / mt::kSlow;
     auto c = pairs16(rng, n);
     std::vector<Tav16s> re(static_cast<size_t>(n)), im(static_cast<size_t>(n));
-    for (int i = 0; i < n; ++i) re[size_t(i)] = c[size_t(i)].re, im[size_t(i)] = c[size_t(i)].im;
+    for (int i = 0; i < n; ++i)
+        re[size_t(i)] = c[size_t(i)].re, im[size_t(i)] = c[size_t(i)].im;
     std::vector<Tav16s> a(static_cast<size_t>(n)), b(static_cast<size_t>(n)), p(static_cast<size_t>(n)),
         q(static_cast<size_t>(n));
     for (int sf : kSfs) {
@@ -187,7 +195,8 @@ TEST(Magnitude32sc, ScaledInDouble)
     tt::Rng rng(75);
     const int n = 3000;
     std::vector<Tav32sc> c(n);
-    for (auto& p : c) p = {rng.element<Tav32s>(), rng.element<Tav32s>()};
+    for (auto& p : c)
+        p = {rng.element<Tav32s>(), rng.element<Tav32s>()};
     c[0] = {0, 0};
     std::vector<Tav32s> a(n), m(n);
     for (int sf : kSfs) {
@@ -196,7 +205,8 @@ TEST(Magnitude32sc, ScaledInDouble)
         for (int i = 0; i < n; ++i) {
             const double re = c[size_t(i)].re, im = c[size_t(i)].im;
             int64_t ra;
-            if (sf <= -31) ra = (re == 0 && im == 0) ? 0 : INT32_MAX;
+            if (sf <= -31)
+                ra = (re == 0 && im == 0) ? 0 : INT32_MAX;
             else {
                 const double v = std::sqrt(re * re + im * im) * std::pow(2.0, -double(sf)) + 0.5;
                 ra = v >= 2147483647.0 ? INT32_MAX : int64_t(v);
@@ -205,10 +215,14 @@ TEST(Magnitude32sc, ScaledInDouble)
             const unsigned __int128 sum = (unsigned __int128)((__int128)c[size_t(i)].re * c[size_t(i)].re) +
                                           (unsigned __int128)((__int128)c[size_t(i)].im * c[size_t(i)].im);
             unsigned __int128 v;
-            if (sf > 63) v = 0;
-            else if (sf >= 0) v = sum >> sf;
-            else if (sf >= -30) v = sum >= ((unsigned __int128)1 << 31) ? INT32_MAX : sum << -sf;
-            else v = sum == 0 ? 0 : INT32_MAX;
+            if (sf > 63)
+                v = 0;
+            else if (sf >= 0)
+                v = sum >> sf;
+            else if (sf >= -30)
+                v = sum >= ((unsigned __int128)1 << 31) ? INT32_MAX : sum << -sf;
+            else
+                v = sum == 0 ? 0 : INT32_MAX;
             ASSERT_EQ(m[size_t(i)], int64_t(v > INT32_MAX ? INT32_MAX : v)) << i << " sf " << sf;
         }
     }

@@ -101,7 +101,8 @@ TEST(Normalize, Fixed16)
     for (int divisor : {1, -1, 3, 7, -1000, 65536, INT32_MIN, INT32_MAX})
         for (int sf : {INT_MIN, -130, -64, -10, -1, 0, 1, 5, 63, 64, 127, 128, INT_MAX}) {
             ASSERT_EQ(tavsNormalize_16s_Sfs(x.data(), y.data(), n, -7, divisor, sf), StatusOk);
-            ASSERT_EQ(tavsNormalize_16sc_Sfs(c.data(), cy.data(), n, Tav16sc{5, -32768}, divisor, sf), StatusOk);
+            ASSERT_EQ(tavsNormalize_16sc_Sfs(c.data(), cy.data(), n, Tav16sc{5, -32768}, divisor, sf),
+                      StatusOk);
             for (int i = 0; i < n; ++i) {
                 ASSERT_EQ(y[size_t(i)], ref16(x[size_t(i)], -7, divisor, sf)) << divisor << " sf " << sf;
                 ASSERT_EQ(cy[size_t(i)].re, ref16(c[size_t(i)].re, 5, divisor, sf));
@@ -113,7 +114,7 @@ TEST(Normalize, Fixed16)
     ASSERT_EQ(tavsNormalize_16s_Sfs(v, o, 3, 0, 4, -1), StatusOk); // 100 / 4 * 2 = 50
     EXPECT_EQ(o[0], 50);
     EXPECT_EQ(o[1], -50);
-    EXPECT_EQ(o[2], 4); // 3.5 goes to even
+    EXPECT_EQ(o[2], 4);                                             // 3.5 goes to even
     ASSERT_EQ(tavsNormalize_16s_Sfs(v, o, 3, 0, 4, 127), StatusOk); // 127 is -1 modulo 128
     EXPECT_EQ(o[0], 50);
 }

@@ -25,13 +25,16 @@ TEST(Phase, Float32Within1UlpAndChunkedEqualsSplit)
         im[size_t(i)] = float(std::ldexp(rng.uniform(-1, 1), int(rng.range(-40, 40))));
         c[size_t(i)] = {re[size_t(i)], im[size_t(i)]};
     }
-    const float sp[][2] = {{INFINITY, INFINITY}, {-INFINITY, 1}, {1, -INFINITY}, {-1, 0}, {-1, -0.0f}, {0, 5}, {5, 0}};
-    for (int i = 0; i < 7; ++i) re[size_t(i)] = sp[i][0], im[size_t(i)] = sp[i][1], c[size_t(i)] = {sp[i][0], sp[i][1]};
+    const float sp[][2] = {{INFINITY, INFINITY}, {-INFINITY, 1}, {1, -INFINITY}, {-1, 0},
+                           {-1, -0.0f},          {0, 5},         {5, 0}};
+    for (int i = 0; i < 7; ++i)
+        re[size_t(i)] = sp[i][0], im[size_t(i)] = sp[i][1], c[size_t(i)] = {sp[i][0], sp[i][1]};
     ASSERT_EQ(tavsPhase_32f(re.data(), im.data(), a.data(), n), StatusOk);
     ASSERT_EQ(tavsPhase_32fc(c.data(), b.data(), n), StatusOk);
     double worst = 0;
     for (int i = 0; i < n; ++i) {
-        worst = std::max(worst, mt::ulp_error(a[size_t(i)], std::atan2((long double)im[size_t(i)], (long double)re[size_t(i)])));
+        worst = std::max(worst, mt::ulp_error(a[size_t(i)], std::atan2((long double)im[size_t(i)],
+                                                                       (long double)re[size_t(i)])));
         ASSERT_TRUE(tt::same_bits(a[size_t(i)], b[size_t(i)])) << i;
     }
     std::printf("Phase_32f: max error %.3f ulp\n", worst);
@@ -44,7 +47,8 @@ TEST(Phase, ZeroPairs)
     const double re[4] = {0.0, -0.0, -0.0, 0.0}, im[4] = {-0.0, 0.0, -0.0, 0.0};
     double y[4];
     ASSERT_EQ(tavsPhase_64f(re, im, y, 4), StatusOk);
-    for (double v : y) EXPECT_EQ(mt::bits(v), 0u);
+    for (double v : y)
+        EXPECT_EQ(mt::bits(v), 0u);
     Tav64fc c[2] = {{-0.0, 0.0}, {0.0, -0.0}};
     ASSERT_EQ(tavsPhase_64fc(c, y, 2), StatusOk);
     EXPECT_EQ(mt::bits(y[0]), 0u);
@@ -137,7 +141,8 @@ TEST(Phase, FixedPoint)
         ASSERT_EQ(tavsPhase_16sc_Sfs(c.data(), b.data(), n, sf), StatusOk);
         ASSERT_EQ(tavsPhase_32sc_Sfs(c32.data(), d.data(), n, sf), StatusOk);
         for (int i = 0; i < n; ++i) {
-            ASSERT_EQ(a[size_t(i)], ref_phase_fixed<Tav16s>(re[size_t(i)], im[size_t(i)], sf)) << i << " sf " << sf;
+            ASSERT_EQ(a[size_t(i)], ref_phase_fixed<Tav16s>(re[size_t(i)], im[size_t(i)], sf))
+                << i << " sf " << sf;
             ASSERT_EQ(b[size_t(i)], a[size_t(i)]);
             ASSERT_EQ(d[size_t(i)], ref_phase_fixed<Tav32s>(c32[size_t(i)].re, c32[size_t(i)].im, sf)) << sf;
         }
@@ -146,7 +151,8 @@ TEST(Phase, FixedPoint)
     tt::Guarded<Tav16s> z(4);
     const Tav16s r4[4] = {-1, 1, -5, 0}, i4[4] = {1, 1, -1, 3};
     ASSERT_EQ(tavsPhase_16s_Sfs(r4, i4, z.data(), 4, 2), StatusOk);
-    for (int i = 0; i < 4; ++i) EXPECT_EQ(z.data()[i], 0);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(z.data()[i], 0);
     EXPECT_TRUE(z.borders_intact());
     ASSERT_EQ(tavsPhase_16s_Sfs(r4, i4, z.data(), 1, -13), StatusOk);
     EXPECT_EQ(z.data()[0], 19302); // 3 pi / 4 * 8192 = 19301.9

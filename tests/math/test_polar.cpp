@@ -16,10 +16,10 @@ TEST(PolarToCart, FloatForms)
 {
     tt::Rng rng(91);
     for (int len : {1, 3, 4, 17, 70}) {
-        std::vector<float> m(static_cast<size_t>(len)), p(static_cast<size_t>(len)), re(static_cast<size_t>(len)),
-            im(static_cast<size_t>(len));
-        std::vector<double> md(static_cast<size_t>(len)), pd(static_cast<size_t>(len)), red(static_cast<size_t>(len)),
-            imd(static_cast<size_t>(len));
+        std::vector<float> m(static_cast<size_t>(len)), p(static_cast<size_t>(len)),
+            re(static_cast<size_t>(len)), im(static_cast<size_t>(len));
+        std::vector<double> md(static_cast<size_t>(len)), pd(static_cast<size_t>(len)),
+            red(static_cast<size_t>(len)), imd(static_cast<size_t>(len));
         std::vector<Tav32fc> c(static_cast<size_t>(len));
         std::vector<Tav64fc> cd(static_cast<size_t>(len));
         for (int i = 0; i < len; ++i) {
@@ -31,10 +31,12 @@ TEST(PolarToCart, FloatForms)
         ASSERT_EQ(tavsPolarToCart_64f(md.data(), pd.data(), red.data(), imd.data(), len), StatusOk);
         ASSERT_EQ(tavsPolarToCart_64fc(md.data(), pd.data(), cd.data(), len), StatusOk);
         for (int i = 0; i < len; ++i) {
-            const float fr = m[size_t(i)] * std::cos(p[size_t(i)]), fi = m[size_t(i)] * std::sin(p[size_t(i)]);
+            const float fr = m[size_t(i)] * std::cos(p[size_t(i)]),
+                        fi = m[size_t(i)] * std::sin(p[size_t(i)]);
             ASSERT_TRUE(tt::same_bits(re[size_t(i)], fr) && tt::same_bits(im[size_t(i)], fi));
             ASSERT_TRUE(tt::same_bits(c[size_t(i)].re, fr) && tt::same_bits(c[size_t(i)].im, fi));
-            const double dr = md[size_t(i)] * std::cos(pd[size_t(i)]), di = md[size_t(i)] * std::sin(pd[size_t(i)]);
+            const double dr = md[size_t(i)] * std::cos(pd[size_t(i)]),
+                         di = md[size_t(i)] * std::sin(pd[size_t(i)]);
             ASSERT_TRUE(tt::same_bits(red[size_t(i)], dr) && tt::same_bits(imd[size_t(i)], di));
             ASSERT_TRUE(tt::same_bits(cd[size_t(i)].re, dr) && tt::same_bits(cd[size_t(i)].im, di));
         }
@@ -52,13 +54,16 @@ TEST(PolarToCart, Fixed16sc)
     tt::Rng rng(92);
     const int n = 3000;
     std::vector<Tav16s> m(n), p(n);
-    for (int i = 0; i < n; ++i) m[size_t(i)] = rng.element<Tav16s>(), p[size_t(i)] = rng.element<Tav16s>();
+    for (int i = 0; i < n; ++i)
+        m[size_t(i)] = rng.element<Tav16s>(), p[size_t(i)] = rng.element<Tav16s>();
     std::vector<Tav16sc> a(n), b(n);
-    const std::pair<int, int> sfs[] = {{0, 0}, {0, 13}, {-2, 12}, {3, 14}, {INT_MIN, INT_MAX}, {40, -40}, {-31, 31}, {5, 0}};
+    const std::pair<int, int> sfs[] = {{0, 0},    {0, 13},   {-2, 12}, {3, 14}, {INT_MIN, INT_MAX},
+                                       {40, -40}, {-31, 31}, {5, 0}};
     for (auto [ms, ps] : sfs) {
         ASSERT_EQ(tavsPolarToCart_16sc_Sfs(m.data(), p.data(), a.data(), n, ms, ps), StatusOk);
         ASSERT_EQ(tavsPolarToCart_16sc(m.data(), p.data(), b.data(), n, ms, ps), StatusOk);
-        const double sm = std::ldexp(1.0, -std::clamp(ms, -31, 31)), sp = std::ldexp(1.0, -std::clamp(ps, -31, 31));
+        const double sm = std::ldexp(1.0, -std::clamp(ms, -31, 31)),
+                     sp = std::ldexp(1.0, -std::clamp(ps, -31, 31));
         for (int i = 0; i < n; ++i) {
             const double ang = double(p[size_t(i)]) * sp, mg = m[size_t(i)];
             ASSERT_EQ(a[size_t(i)].re, ref_round_cap(std::cos(ang) * sm * mg)) << i;
@@ -79,7 +84,8 @@ TEST(PolarToCart, Fixed32sc)
     tt::Rng rng(93);
     const int n = 2000;
     std::vector<Tav32s> m(n), p(n);
-    for (int i = 0; i < n; ++i) m[size_t(i)] = rng.element<Tav32s>(), p[size_t(i)] = rng.element<Tav32s>();
+    for (int i = 0; i < n; ++i)
+        m[size_t(i)] = rng.element<Tav32s>(), p[size_t(i)] = rng.element<Tav32s>();
     m[0] = INT32_MIN, p[0] = 0;
     std::vector<Tav32sc> a(n);
     for (Tav32u fp : {0u, 1u, 16u, 29u, 31u}) {
@@ -87,7 +93,9 @@ TEST(PolarToCart, Fixed32sc)
         for (int i = 0; i < n; ++i) {
             const double ang = std::ldexp(double(p[size_t(i)]), -int(fp)), mg = m[size_t(i)];
             const double re = mg * std::cos(ang), im = mg * std::sin(ang);
-            auto tr = [](double v) { return v >= 2147483647.0 ? INT32_MAX : (v <= -2147483648.0 ? INT32_MIN : Tav32s(v)); };
+            auto tr = [](double v) {
+                return v >= 2147483647.0 ? INT32_MAX : (v <= -2147483648.0 ? INT32_MIN : Tav32s(v));
+            };
             ASSERT_EQ(a[size_t(i)].re, tr(re)) << i;
             ASSERT_EQ(a[size_t(i)].im, tr(im)) << i;
         }

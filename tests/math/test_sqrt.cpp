@@ -131,18 +131,22 @@ int64_t ref_exact(uint64_t x, int sf, int64_t maxv)
         uint64_t lo = 0, hi = uint64_t(1) << 63;
         while (lo < hi) { // largest k with k^2 <= v
             const uint64_t mid = lo + (hi - lo + 1) / 2;
-            if (u128(mid) * mid <= v) lo = mid;
-            else hi = mid - 1;
+            if (u128(mid) * mid <= v)
+                lo = mid;
+            else
+                hi = mid - 1;
         }
         const uint64_t k = lo + ((v - u128(lo) * lo) > lo ? 1 : 0);
         return k > uint64_t(maxv) ? maxv : int64_t(k);
     }
-    if (sf > 32) return 0; // sqrt(x) < 2^32
+    if (sf > 32) return 0;                           // sqrt(x) < 2^32
     uint64_t lo = 0, hi = (uint64_t(1) << 32) >> sf; // largest k with (k 2^sf)^2 <= x
     while (lo < hi) {
         const uint64_t mid = lo + (hi - lo + 1) / 2;
-        if ((u128(mid) << sf) * (u128(mid) << sf) <= x) lo = mid;
-        else hi = mid - 1;
+        if ((u128(mid) << sf) * (u128(mid) << sf) <= x)
+            lo = mid;
+        else
+            hi = mid - 1;
     }
     const u128 x4 = u128(x) << 2, half = (u128(2 * lo + 1) << sf) * (u128(2 * lo + 1) << sf);
     uint64_t k = lo;
@@ -157,8 +161,10 @@ TEST(SqrtInt, Every8u16u16sInput)
     std::vector<Tav8u> x8(256), y8(256);
     std::vector<Tav16u> xu(65536), yu(65536);
     std::vector<Tav16s> xs(65536), ys(65536);
-    for (int i = 0; i < 256; ++i) x8[size_t(i)] = Tav8u(i);
-    for (int i = 0; i < 65536; ++i) xu[size_t(i)] = Tav16u(i), xs[size_t(i)] = Tav16s(i - 32768);
+    for (int i = 0; i < 256; ++i)
+        x8[size_t(i)] = Tav8u(i);
+    for (int i = 0; i < 65536; ++i)
+        xu[size_t(i)] = Tav16u(i), xs[size_t(i)] = Tav16s(i - 32768);
     long off16s = 0;
     for (int sf : kSfs) {
         ASSERT_EQ(tavsSqrt_8u_Sfs(x8.data(), y8.data(), 256, sf), StatusOk);
@@ -166,12 +172,14 @@ TEST(SqrtInt, Every8u16u16sInput)
         ASSERT_EQ(tavsSqrt_16s_Sfs(xs.data(), ys.data(), 65536, sf), WarnSqrtNegative);
         for (int i = 0; i < 256; ++i) {
             ASSERT_EQ(y8[size_t(i)], ref_float_path(i, sf, 255, -7, 4)) << i << " sf " << sf;
-            ASSERT_EQ(y8[size_t(i)], ref_exact(uint64_t(i), sf, 255)) << i << " sf " << sf; // exact for 8 bits
+            ASSERT_EQ(y8[size_t(i)], ref_exact(uint64_t(i), sf, 255))
+                << i << " sf " << sf; // exact for 8 bits
         }
         for (int i = 0; i < 65536; ++i) {
             ASSERT_EQ(yu[size_t(i)], ref_float_path(i, sf, 65535, -15, 8)) << i << " sf " << sf;
             const int xv = i - 32768;
-            ASSERT_EQ(ys[size_t(i)], xv < 0 ? 0 : ref_float_path(xv, sf, 32767, -14, 8)) << xv << " sf " << sf;
+            ASSERT_EQ(ys[size_t(i)], xv < 0 ? 0 : ref_float_path(xv, sf, 32767, -14, 8))
+                << xv << " sf " << sf;
             if (xv >= 0) {
                 const int64_t e = ref_exact(uint64_t(xv), sf, 32767);
                 ASSERT_LE(std::abs(ys[size_t(i)] - e), 1); // the float root is off by one at most
@@ -206,8 +214,10 @@ TEST(SqrtInt, WideSourcesRandom)
     tt::Rng rng(53);
     std::vector<Tav32s> x32(3000);
     std::vector<Tav64s> x64(3000);
-    for (auto& v : x32) v = rng.element<Tav32s>();
-    for (auto& v : x64) v = rng.next() % 3 ? rng.element<Tav64s>() : Tav64s(rng.range(0, 1LL << 40));
+    for (auto& v : x32)
+        v = rng.element<Tav32s>();
+    for (auto& v : x64)
+        v = rng.next() % 3 ? rng.element<Tav64s>() : Tav64s(rng.range(0, 1LL << 40));
     x64[0] = 9; // exact ties at sf 1
     x64[1] = 25;
     x64[2] = INT64_MAX;
@@ -247,13 +257,15 @@ TEST(SqrtInt, Complex16sc)
     tt::Rng rng(54);
     const int n = 5000;
     std::vector<Tav16sc> x(n), y(n);
-    for (auto& v : x) v = {rng.element<Tav16s>(), rng.element<Tav16s>()};
+    for (auto& v : x)
+        v = {rng.element<Tav16s>(), rng.element<Tav16s>()};
     x[0] = {0, 0}, x[1] = {-4, 0}, x[2] = {0, -8}, x[3] = {25, 0};
     for (int sf : {INT_MIN, -9, -8, -7, -5, -1, 0, 1, 2, 8, 9, 70, INT_MAX}) {
         ASSERT_EQ(tavsSqrt_16sc_Sfs(x.data(), y.data(), n, sf), StatusOk);
         for (int i = 0; i < n; ++i) {
             const std::complex<double> r = std::sqrt(std::complex<double>(x[size_t(i)].re, x[size_t(i)].im));
-            const double re = r.real(), im = x[size_t(i)].im == 0 && x[size_t(i)].re < 0 ? std::fabs(r.imag()) : r.imag();
+            const double re = r.real(),
+                         im = x[size_t(i)].im == 0 && x[size_t(i)].re < 0 ? std::fabs(r.imag()) : r.imag();
             // the library's formula and std::sqrt agree to well below half a unit
             const Tav16s er = ref_part(re, sf), ei = ref_part(im, sf);
             ASSERT_LE(std::abs(y[size_t(i)].re - er), 1) << i << " sf " << sf;
