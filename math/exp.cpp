@@ -114,6 +114,16 @@ Status exp_32f(const Tav32f* src, Tav32f* dst, int len)
         // Four ordinary neighbours with an empty group form the next group
         // by themselves. Their order in memory is the reverse of the walk,
         // which keeps the pairs (and so every bit) of the shared division.
+        if (cnt == 0 && i >= 7) { // two such groups at once
+            const __m128 hi4 = _mm_loadu_ps(src + i - 3), lo4 = _mm_loadu_ps(src + i - 7);
+            if (exp32_all_ordinary(hi4) && exp32_all_ordinary(lo4)) {
+                const __m128 yh = exp32_group(hi4), yl = exp32_group(lo4);
+                _mm_storeu_ps(dst + i - 3, yh);
+                _mm_storeu_ps(dst + i - 7, yl);
+                i -= 7;
+                continue;
+            }
+        }
         if (cnt == 0 && i >= 3) {
             const __m128 x4 = _mm_loadu_ps(src + i - 3);
             if (exp32_all_ordinary(x4)) {
