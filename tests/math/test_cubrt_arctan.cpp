@@ -166,3 +166,35 @@ TEST(CubrtArctan, Errors)
 }
 
 } // namespace
+
+namespace {
+
+// The batched evaluations run with their own rounding; the caller's
+// direction is back in place afterwards.
+TEST(Arctan, OwnRoundingInsideCallersStateKept)
+{
+    tt::Rng rng(64);
+    std::vector<double> x(64), a(64), b(64);
+    std::vector<float> xf(64), af(64), bf(64);
+    for (int i = 0; i < 64; ++i)
+        x[size_t(i)] = rng.uniform(-30, 30), xf[size_t(i)] = float(x[size_t(i)]);
+    std::vector<Tav32fc> c(64);
+    for (int i = 0; i < 64; ++i)
+        c[size_t(i)] = {xf[size_t(i)], xf[size_t(63 - i)]};
+    std::vector<float> pa(64), pb(64);
+    ASSERT_EQ(tavsArctan_64f(x.data(), a.data(), 64), StatusOk);
+    ASSERT_EQ(tavsArctan_32f(xf.data(), af.data(), 64), StatusOk);
+    ASSERT_EQ(tavsPhase_32fc(c.data(), pa.data(), 64), StatusOk);
+    for (int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO})
+        mt::with_rounding(mode, [&] {
+            ASSERT_EQ(tavsArctan_64f(x.data(), b.data(), 64), StatusOk);
+            ASSERT_EQ(tavsArctan_32f(xf.data(), bf.data(), 64), StatusOk);
+            ASSERT_EQ(tavsPhase_32fc(c.data(), pb.data(), 64), StatusOk);
+            EXPECT_EQ(std::fegetround(), mode);
+            EXPECT_EQ(0, std::memcmp(a.data(), b.data(), 64 * 8)) << mode;
+            EXPECT_EQ(0, std::memcmp(af.data(), bf.data(), 64 * 4)) << mode;
+            EXPECT_EQ(0, std::memcmp(pa.data(), pb.data(), 64 * 4)) << mode;
+        });
+}
+
+} // namespace
