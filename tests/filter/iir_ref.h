@@ -20,7 +20,10 @@ template <class F> struct Z {
 };
 template <class F> Z<F> operator+(Z<F> a, Z<F> b) { return {a.re + b.re, a.im + b.im}; }
 template <class F> Z<F> operator-(Z<F> a, Z<F> b) { return {a.re - b.re, a.im - b.im}; }
-template <class F> Z<F> operator*(Z<F> a, Z<F> b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+template <class F> Z<F> operator*(Z<F> a, Z<F> b)
+{
+    return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
+}
 
 template <class T> T one_over(T v) { return T(1) / v; }
 // 1/v, dividing through by the larger part first.
@@ -44,7 +47,8 @@ template <class T> T zero() { return T{}; }
 template <class T> struct Arb {
     int n;
     std::vector<T> b, a, d; // a[0] unused; d has n+1 values, d[n] = 0
-    Arb(const T* taps, int order) : n(order), b(size_t(order) + 1), a(size_t(order) + 1), d(size_t(order) + 1, T{})
+    Arb(const T* taps, int order)
+        : n(order), b(size_t(order) + 1), a(size_t(order) + 1), d(size_t(order) + 1, T{})
     {
         const T r = one_over(taps[n + 1]);
         for (int i = 0; i <= n; ++i)
@@ -135,7 +139,10 @@ template <class T> std::vector<T> df1_taps(const T* taps, int m)
 struct Df1f {
     int m;
     std::vector<float> c, h; // h: x[-2] x[-1] y[-2] y[-1] per section
-    Df1f(const float* taps, int sections) : m(sections), c(df1_taps(taps, sections)), h(4 * size_t(sections), 0.0f) {}
+    Df1f(const float* taps, int sections)
+        : m(sections), c(df1_taps(taps, sections)), h(4 * size_t(sections), 0.0f)
+    {
+    }
     void call(const float* src, float* dst, int len)
     {
         std::vector<float> cur(src, src + len);
@@ -206,7 +213,8 @@ inline std::vector<double> bq_taps(tt::Rng& g, int m, double rmax = 0.9)
 // Complex taps: real ones rotated by random phases (numerator) and poles
 // rotated as a whole (denominator coefficient k times e^{i k phi}), which
 // keeps the poles inside the unit circle.
-template <class F> std::vector<Z<F>> complex_taps(tt::Rng& g, const std::vector<double>& real, int n, bool biquad)
+template <class F>
+std::vector<Z<F>> complex_taps(tt::Rng& g, const std::vector<double>& real, int n, bool biquad)
 {
     std::vector<Z<F>> t(real.size());
     const double phi = g.uniform(-3.0, 3.0);
@@ -242,7 +250,8 @@ inline std::vector<float> random_f(tt::Rng& g, int len, double amp = 1.0)
 struct LongArb {
     int n;
     std::vector<long double> b, a, d;
-    template <class T> LongArb(const T* taps, int order) : n(order), b(size_t(n) + 1), a(size_t(n) + 1), d(size_t(n) + 1)
+    template <class T>
+    LongArb(const T* taps, int order) : n(order), b(size_t(n) + 1), a(size_t(n) + 1), d(size_t(n) + 1)
     {
         const long double a0 = taps[n + 1];
         for (int i = 0; i <= n; ++i)

@@ -15,7 +15,8 @@ namespace {
 
 using namespace iirt;
 
-template <class K> class IirFloat : public ::testing::Test {};
+template <class K> class IirFloat : public ::testing::Test {
+};
 using Kinds = ::testing::Types<K32f, K32fc, K64f, K64fc, K64f32f, K64fc32fc>;
 TYPED_TEST_SUITE(IirFloat, Kinds);
 
@@ -180,8 +181,10 @@ TYPED_TEST(IirFloat, PairsAndSingleStepsAgreeWhenExact)
         const int len = 7; // odd: three pairs and a single step
         std::vector<Data> x(len), y1(len), y2(len);
         for (auto& v : x) {
-            if constexpr (K::complex) v = Data{decltype(v.re)(g.range(-3, 3)), decltype(v.re)(g.range(-3, 3))};
-            else v = Data(g.range(-3, 3));
+            if constexpr (K::complex)
+                v = Data{decltype(v.re)(g.range(-3, 3)), decltype(v.re)(g.range(-3, 3))};
+            else
+                v = Data(g.range(-3, 3));
         }
         ASSERT_EQ(K::run(x.data(), y1.data(), len, blockRec.st), StatusOk);
         for (int i = 0; i < len; ++i)
@@ -202,15 +205,19 @@ TYPED_TEST(IirFloat, NanA0PassesAndPoisonsTheOutput)
     tt::Rng g(505);
     auto taps = kind_taps<K>(g, arb_taps(g, 2), 2, false);
     const auto nan = std::numeric_limits<double>::quiet_NaN();
-    if constexpr (K::complex) taps[3].re = decltype(taps[3].re)(nan);
-    else taps[3] = typename K::Tap(nan);
+    if constexpr (K::complex)
+        taps[3].re = decltype(taps[3].re)(nan);
+    else
+        taps[3] = typename K::Tap(nan);
     Rec<K> rec(taps, 2, false, nullptr, 0);
     auto x = kind_data<Data>(g, 4);
     std::vector<Data> y(4);
     ASSERT_EQ(K::run(x.data(), y.data(), 4, rec.st), StatusOk);
     for (auto v : y) {
-        if constexpr (K::complex) EXPECT_TRUE(std::isnan(v.re) || std::isnan(v.im));
-        else EXPECT_TRUE(std::isnan(v));
+        if constexpr (K::complex)
+            EXPECT_TRUE(std::isnan(v.re) || std::isnan(v.im));
+        else
+            EXPECT_TRUE(std::isnan(v));
     }
 }
 

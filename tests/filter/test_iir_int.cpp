@@ -30,14 +30,18 @@ double factor64(int sf)
 }
 template <class F> Tav16s to16(F v)
 {
-    if (v > F(32767)) v = F(32767);
-    else if (v < F(-32768)) v = F(-32768);
+    if (v > F(32767))
+        v = F(32767);
+    else if (v < F(-32768))
+        v = F(-32768);
     return Tav16s(std::nearbyint(v));
 }
 Tav32s to32(double v)
 {
-    if (v > 2147483647.0) v = 2147483647.0;
-    else if (v < -2147483648.0) v = -2147483648.0;
+    if (v > 2147483647.0)
+        v = 2147483647.0;
+    else if (v < -2147483648.0)
+        v = -2147483648.0;
     return Tav32s(std::nearbyint(v));
 }
 
@@ -45,50 +49,62 @@ constexpr int kTapsFactor = 3;
 
 // The element type of a record's delay line, from the model's precision.
 template <class M> struct ElemOf;
-template <> struct ElemOf<float> { using type = Tav32f; };
-template <> struct ElemOf<double> { using type = Tav64f; };
-template <> struct ElemOf<Z<float>> { using type = Tav32fc; };
-template <> struct ElemOf<Z<double>> { using type = Tav64fc; };
+template <> struct ElemOf<float> {
+    using type = Tav32f;
+};
+template <> struct ElemOf<double> {
+    using type = Tav64f;
+};
+template <> struct ElemOf<Z<float>> {
+    using type = Tav32fc;
+};
+template <> struct ElemOf<Z<double>> {
+    using type = Tav64fc;
+};
 
 // Kinds: record, caller's tap type, data type, model precision, and the
 // conversions of the model.
-#define IIRT_IKIND(NAME, REC, TAPIN, DATA, MODEL, SIZE, SIZEBQ, INIT, INITBQ, FREE, TAPS, GET, RUN, RUNI, ONE, OUT,     \
-                   TAPCONV)                                                                                            \
-    struct NAME {                                                                                                      \
-        using R = REC;                                                                                                 \
-        using TapIn = TAPIN;                                                                                           \
-        using Data = DATA;                                                                                             \
-        using Model = MODEL;                                                                                           \
-        using Dly = typename ElemOf<MODEL>::type;                                                                      \
-        static constexpr bool complex = !std::is_arithmetic_v<DATA>;                                                   \
-        static constexpr auto size = SIZE;                                                                             \
-        static constexpr auto size_bq = SIZEBQ;                                                                        \
-        static constexpr auto init = INIT;                                                                             \
-        static constexpr auto init_bq = INITBQ;                                                                        \
-        static constexpr auto free_ = FREE;                                                                            \
-        static constexpr auto set_taps = TAPS;                                                                         \
-        static constexpr auto get_dly = GET;                                                                           \
-        static constexpr auto run = RUN;                                                                               \
-        static constexpr auto run_i = RUNI;                                                                            \
-        static constexpr auto one = ONE;                                                                               \
-        static Data out(Model y, int sf) { return OUT; }                                                               \
-        static Model tap(TapIn t) { return TAPCONV; }                                                                  \
+#define IIRT_IKIND(NAME, REC, TAPIN, DATA, MODEL, SIZE, SIZEBQ, INIT, INITBQ, FREE, TAPS, GET, RUN, RUNI,    \
+                   ONE, OUT, TAPCONV)                                                                        \
+    struct NAME {                                                                                            \
+        using R = REC;                                                                                       \
+        using TapIn = TAPIN;                                                                                 \
+        using Data = DATA;                                                                                   \
+        using Model = MODEL;                                                                                 \
+        using Dly = typename ElemOf<MODEL>::type;                                                            \
+        static constexpr bool complex = !std::is_arithmetic_v<DATA>;                                         \
+        static constexpr auto size = SIZE;                                                                   \
+        static constexpr auto size_bq = SIZEBQ;                                                              \
+        static constexpr auto init = INIT;                                                                   \
+        static constexpr auto init_bq = INITBQ;                                                              \
+        static constexpr auto free_ = FREE;                                                                  \
+        static constexpr auto set_taps = TAPS;                                                               \
+        static constexpr auto get_dly = GET;                                                                 \
+        static constexpr auto run = RUN;                                                                     \
+        static constexpr auto run_i = RUNI;                                                                  \
+        static constexpr auto one = ONE;                                                                     \
+        static Data out(Model y, int sf) { return OUT; }                                                     \
+        static Model tap(TapIn t) { return TAPCONV; }                                                        \
     };
 
-#define OUT16R to16(y * factor32(sf))
-#define OUT16C Tav16sc{to16(y.re * factor32(sf)), to16(y.im * factor32(sf))}
-#define OUT16R64 to16(y * factor64(sf))
-#define OUT16C64 Tav16sc{to16(y.re * factor64(sf)), to16(y.im * factor64(sf))}
-#define OUT32R to32(y * factor64(sf))
-#define OUT32C Tav32sc{to32(y.re * factor64(sf)), to32(y.im * factor64(sf))}
+#define OUT16R to16(y* factor32(sf))
+#define OUT16C                                                                                               \
+    Tav16sc { to16(y.re* factor32(sf)), to16(y.im* factor32(sf)) }
+#define OUT16R64 to16(y* factor64(sf))
+#define OUT16C64                                                                                             \
+    Tav16sc { to16(y.re* factor64(sf)), to16(y.im* factor64(sf)) }
+#define OUT32R to32(y* factor64(sf))
+#define OUT32C                                                                                               \
+    Tav32sc { to32(y.re* factor64(sf)), to32(y.im* factor64(sf)) }
 #define TAP_SAME to_model<Model>(t)
 #define TAP_32S float(t) * std::ldexp(1.0f, -kTapsFactor)
-#define TAP_32SC Model{float(t.re) * std::ldexp(1.0f, -kTapsFactor), float(t.im) * std::ldexp(1.0f, -kTapsFactor)}
+#define TAP_32SC                                                                                             \
+    Model { float(t.re) * std::ldexp(1.0f, -kTapsFactor), float(t.im) * std::ldexp(1.0f, -kTapsFactor) }
 
 IIRT_IKIND(K32f16s, IIRState32f_16s, Tav32f, Tav16s, float, tavsIIRGetStateSize32f_16s,
-           tavsIIRGetStateSize32f_BiQuad_16s, tavsIIRInit32f_16s, tavsIIRInit32f_BiQuad_16s, tavsIIRFree32f_16s,
-           tavsIIRSetTaps32f_16s, tavsIIRGetDlyLine32f_16s, tavsIIR32f_16s_Sfs, tavsIIR32f_16s_ISfs,
-           tavsIIROne32f_16s_Sfs, OUT16R, TAP_SAME)
+           tavsIIRGetStateSize32f_BiQuad_16s, tavsIIRInit32f_16s, tavsIIRInit32f_BiQuad_16s,
+           tavsIIRFree32f_16s, tavsIIRSetTaps32f_16s, tavsIIRGetDlyLine32f_16s, tavsIIR32f_16s_Sfs,
+           tavsIIR32f_16s_ISfs, tavsIIROne32f_16s_Sfs, OUT16R, TAP_SAME)
 IIRT_IKIND(K32fc16sc, IIRState32fc_16sc, Tav32fc, Tav16sc, Z<float>, tavsIIRGetStateSize32fc_16sc,
            tavsIIRGetStateSize32fc_BiQuad_16sc, tavsIIRInit32fc_16sc, tavsIIRInit32fc_BiQuad_16sc,
            tavsIIRFree32fc_16sc, tavsIIRSetTaps32fc_16sc, tavsIIRGetDlyLine32fc_16sc, tavsIIR32fc_16sc_Sfs,
@@ -99,20 +115,20 @@ IIRT_IKIND(K32s16s32f, IIRState32s_16s, Tav32f, Tav16s, float, tavsIIRGetStateSi
            tavsIIR32s_16s_ISfs, tavsIIROne32s_16s_Sfs, OUT16R, TAP_SAME)
 IIRT_IKIND(K32sc16sc32fc, IIRState32sc_16sc, Tav32fc, Tav16sc, Z<float>, tavsIIRGetStateSize32sc_16sc32fc,
            tavsIIRGetStateSize32sc_BiQuad_16sc32fc, tavsIIRInit32sc_16sc32fc, tavsIIRInit32sc_BiQuad_16sc32fc,
-           tavsIIRFree32sc_16sc, tavsIIRSetTaps32sc_16sc32fc, tavsIIRGetDlyLine32sc_16sc, tavsIIR32sc_16sc_Sfs,
-           tavsIIR32sc_16sc_ISfs, tavsIIROne32sc_16sc_Sfs, OUT16C, TAP_SAME)
+           tavsIIRFree32sc_16sc, tavsIIRSetTaps32sc_16sc32fc, tavsIIRGetDlyLine32sc_16sc,
+           tavsIIR32sc_16sc_Sfs, tavsIIR32sc_16sc_ISfs, tavsIIROne32sc_16sc_Sfs, OUT16C, TAP_SAME)
 IIRT_IKIND(K64f16s, IIRState64f_16s, Tav64f, Tav16s, double, tavsIIRGetStateSize64f_16s,
-           tavsIIRGetStateSize64f_BiQuad_16s, tavsIIRInit64f_16s, tavsIIRInit64f_BiQuad_16s, tavsIIRFree64f_16s,
-           tavsIIRSetTaps64f_16s, tavsIIRGetDlyLine64f_16s, tavsIIR64f_16s_Sfs, tavsIIR64f_16s_ISfs,
-           tavsIIROne64f_16s_Sfs, OUT16R64, TAP_SAME)
+           tavsIIRGetStateSize64f_BiQuad_16s, tavsIIRInit64f_16s, tavsIIRInit64f_BiQuad_16s,
+           tavsIIRFree64f_16s, tavsIIRSetTaps64f_16s, tavsIIRGetDlyLine64f_16s, tavsIIR64f_16s_Sfs,
+           tavsIIR64f_16s_ISfs, tavsIIROne64f_16s_Sfs, OUT16R64, TAP_SAME)
 IIRT_IKIND(K64fc16sc, IIRState64fc_16sc, Tav64fc, Tav16sc, Z<double>, tavsIIRGetStateSize64fc_16sc,
            tavsIIRGetStateSize64fc_BiQuad_16sc, tavsIIRInit64fc_16sc, tavsIIRInit64fc_BiQuad_16sc,
            tavsIIRFree64fc_16sc, tavsIIRSetTaps64fc_16sc, tavsIIRGetDlyLine64fc_16sc, tavsIIR64fc_16sc_Sfs,
            tavsIIR64fc_16sc_ISfs, tavsIIROne64fc_16sc_Sfs, OUT16C64, TAP_SAME)
 IIRT_IKIND(K64f32s, IIRState64f_32s, Tav64f, Tav32s, double, tavsIIRGetStateSize64f_32s,
-           tavsIIRGetStateSize64f_BiQuad_32s, tavsIIRInit64f_32s, tavsIIRInit64f_BiQuad_32s, tavsIIRFree64f_32s,
-           tavsIIRSetTaps64f_32s, tavsIIRGetDlyLine64f_32s, tavsIIR64f_32s_Sfs, tavsIIR64f_32s_ISfs,
-           tavsIIROne64f_32s_Sfs, OUT32R, TAP_SAME)
+           tavsIIRGetStateSize64f_BiQuad_32s, tavsIIRInit64f_32s, tavsIIRInit64f_BiQuad_32s,
+           tavsIIRFree64f_32s, tavsIIRSetTaps64f_32s, tavsIIRGetDlyLine64f_32s, tavsIIR64f_32s_Sfs,
+           tavsIIR64f_32s_ISfs, tavsIIROne64f_32s_Sfs, OUT32R, TAP_SAME)
 IIRT_IKIND(K64fc32sc, IIRState64fc_32sc, Tav64fc, Tav32sc, Z<double>, tavsIIRGetStateSize64fc_32sc,
            tavsIIRGetStateSize64fc_BiQuad_32sc, tavsIIRInit64fc_32sc, tavsIIRInit64fc_BiQuad_32sc,
            tavsIIRFree64fc_32sc, tavsIIRSetTaps64fc_32sc, tavsIIRGetDlyLine64fc_32sc, tavsIIR64fc_32sc_Sfs,
@@ -128,7 +144,8 @@ IIRT_IKIND(K32s16s, IIRState32s_16s, Tav32s, Tav16s, float, tavsIIRGetStateSize3
            }),
            tavsIIRFree32s_16s,
            ([](const Tav32s* t, IIRState32s_16s* s) { return tavsIIRSetTaps32s_16s(t, s, kTapsFactor); }),
-           tavsIIRGetDlyLine32s_16s, tavsIIR32s_16s_Sfs, tavsIIR32s_16s_ISfs, tavsIIROne32s_16s_Sfs, OUT16R, TAP_32S)
+           tavsIIRGetDlyLine32s_16s, tavsIIR32s_16s_Sfs, tavsIIR32s_16s_ISfs, tavsIIROne32s_16s_Sfs, OUT16R,
+           TAP_32S)
 IIRT_IKIND(K32sc16sc, IIRState32sc_16sc, Tav32sc, Tav16sc, Z<float>, tavsIIRGetStateSize32sc_16sc,
            tavsIIRGetStateSize32sc_BiQuad_16sc,
            ([](IIRState32sc_16sc** p, const Tav32sc* t, int n, const Tav32fc* d, Tav8u* b) {
@@ -137,36 +154,43 @@ IIRT_IKIND(K32sc16sc, IIRState32sc_16sc, Tav32sc, Tav16sc, Z<float>, tavsIIRGetS
            ([](IIRState32sc_16sc** p, const Tav32sc* t, int n, const Tav32fc* d, Tav8u* b) {
                return tavsIIRInit32sc_BiQuad_16sc(p, t, n, kTapsFactor, d, b);
            }),
-           tavsIIRFree32sc_16sc,
-           ([](const Tav32sc* t, IIRState32sc_16sc* s) { return tavsIIRSetTaps32sc_16sc(t, s, kTapsFactor); }),
-           tavsIIRGetDlyLine32sc_16sc, tavsIIR32sc_16sc_Sfs, tavsIIR32sc_16sc_ISfs, tavsIIROne32sc_16sc_Sfs, OUT16C,
-           TAP_32SC)
+           tavsIIRFree32sc_16sc, ([](const Tav32sc* t, IIRState32sc_16sc* s) {
+               return tavsIIRSetTaps32sc_16sc(t, s, kTapsFactor);
+           }),
+           tavsIIRGetDlyLine32sc_16sc, tavsIIR32sc_16sc_Sfs, tavsIIR32sc_16sc_ISfs, tavsIIROne32sc_16sc_Sfs,
+           OUT16C, TAP_32SC)
 
-template <class K> class IirInt : public ::testing::Test {};
-using Kinds = ::testing::Types<K32f16s, K32fc16sc, K32s16s32f, K32sc16sc32fc, K64f16s, K64fc16sc, K64f32s, K64fc32sc,
-                               K32s16s, K32sc16sc>;
+template <class K> class IirInt : public ::testing::Test {
+};
+using Kinds = ::testing::Types<K32f16s, K32fc16sc, K32s16s32f, K32sc16sc32fc, K64f16s, K64fc16sc, K64f32s,
+                               K64fc32sc, K32s16s, K32sc16sc>;
 TYPED_TEST_SUITE(IirInt, Kinds);
 
 // Caller's taps of kind K: floats as they are, 32s taps as the given value
 // times 2^kTapsFactor, rounded (so that the factor brings them back).
-template <class K> std::vector<typename K::TapIn> int_kind_taps(tt::Rng& g, const std::vector<double>& t, int n, bool bq)
+template <class K>
+std::vector<typename K::TapIn> int_kind_taps(tt::Rng& g, const std::vector<double>& t, int n, bool bq)
 {
     using T = typename K::TapIn;
     std::vector<T> out(t.size());
     auto z = complex_taps<double>(g, t, n, bq);
     for (size_t i = 0; i < t.size(); ++i) {
-        if constexpr (std::is_same_v<T, Tav32s>) out[i] = Tav32s(std::lround(t[i] * 1000.0));
+        if constexpr (std::is_same_v<T, Tav32s>)
+            out[i] = Tav32s(std::lround(t[i] * 1000.0));
         else if constexpr (std::is_same_v<T, Tav32sc>)
             out[i] = Tav32sc{Tav32s(std::lround(z[i].re * 1000.0)), Tav32s(std::lround(z[i].im * 1000.0))};
-        else if constexpr (std::is_arithmetic_v<T>) out[i] = T(t[i]);
-        else out[i] = to_elem<T>(z[i]);
+        else if constexpr (std::is_arithmetic_v<T>)
+            out[i] = T(t[i]);
+        else
+            out[i] = to_elem<T>(z[i]);
     }
     return out;
 }
 
 template <class E> E random_sample(tt::Rng& g)
 {
-    if constexpr (std::is_arithmetic_v<E>) return g.element<E>();
+    if constexpr (std::is_arithmetic_v<E>)
+        return g.element<E>();
     else {
         using P = decltype(E::re);
         return E{g.element<P>(), g.element<P>()};
@@ -176,11 +200,16 @@ template <class E> E random_sample(tt::Rng& g)
 int random_scale(tt::Rng& g)
 {
     switch (g.range(0, 9)) {
-    case 0: return int(g.range(-200, 200));
-    case 1: return INT_MIN;
-    case 2: return INT_MAX;
-    case 3: return 64;
-    default: return int(g.range(-4, 6));
+    case 0:
+        return int(g.range(-200, 200));
+    case 1:
+        return INT_MIN;
+    case 2:
+        return INT_MAX;
+    case 3:
+        return 64;
+    default:
+        return int(g.range(-4, 6));
     }
 }
 
@@ -202,7 +231,8 @@ template <class K, class M> void int_stream(typename K::R* st, M& model, tt::Rng
             for (int i = 0; i < len; ++i) {
                 Data y;
                 ASSERT_EQ(K::one(x[size_t(i)], &y, st, sf), StatusOk);
-                ASSERT_TRUE(same(y, K::out(model.step(to_model<Model>(x[size_t(i)])), sf))) << "one " << c << " " << i;
+                ASSERT_TRUE(same(y, K::out(model.step(to_model<Model>(x[size_t(i)])), sf)))
+                    << "one " << c << " " << i;
             }
             continue;
         }
@@ -333,7 +363,7 @@ TEST(IirIntRule, ScaleLimitAndTiesToEven)
     EXPECT_EQ(y16(-3, 1), -2); // -1.5 to even
     EXPECT_EQ(y16(-5, 1), -2);
     EXPECT_EQ(y16(5, 0), 5);
-    EXPECT_EQ(y16(20000, -1), 32767);  // limited
+    EXPECT_EQ(y16(20000, -1), 32767); // limited
     EXPECT_EQ(y16(-20000, -1), -32768);
     EXPECT_EQ(y16(3, 129), 2);         // only the low seven bits count
     EXPECT_EQ(y16(12345, 128), 12345); // 128 is 0
@@ -371,7 +401,10 @@ struct Df1i {
     int m;
     std::vector<double> c;
     std::vector<Tav32s> h;
-    Df1i(const double* taps, int sections) : m(sections), c(df1_taps(taps, sections)), h(4 * size_t(sections), 0) {}
+    Df1i(const double* taps, int sections)
+        : m(sections), c(df1_taps(taps, sections)), h(4 * size_t(sections), 0)
+    {
+    }
     void call(const Tav32s* src, Tav32s* dst, int len, int sf)
     {
         std::vector<Tav32s> cur(src, src + len);
