@@ -158,12 +158,14 @@ void bm_32f16f_loop(benchmark::State& state)
 
 #define CONVERT_SIZES Arg(256)->Arg(4096)->Arg(65536)
 BENCHMARK(bm_16s32f_tavs)->Name("Convert_16s32f/tavs")->CONVERT_SIZES;
+#ifdef TAVS_HAVE_VOLK
+BENCHMARK(bm_16s32f_volk)->Name("Convert_16s32f/volk")->CONVERT_SIZES;
+#endif
 BENCHMARK(bm_16s32f_loop)->Name("Convert_16s32f/loop")->CONVERT_SIZES;
 BENCHMARK(bm_32f16s_tavs)->Name("Convert_32f16s_Sfs/tavs")->CONVERT_SIZES;
+#ifdef TAVS_HAVE_VOLK
+BENCHMARK(bm_32f16s_volk)->Name("Convert_32f16s_Sfs/volk")->CONVERT_SIZES;
+#endif
 BENCHMARK(bm_32f16s_loop)->Name("Convert_32f16s_Sfs/loop")->CONVERT_SIZES;
 BENCHMARK(bm_32f16f_tavs)->Name("Convert_32f16f/tavs")->CONVERT_SIZES;
 BENCHMARK(bm_32f16f_loop)->Name("Convert_32f16f/loop")->CONVERT_SIZES;
-#ifdef TAVS_HAVE_VOLK
-BENCHMARK(bm_16s32f_volk)->Name("Convert_16s32f/volk")->CONVERT_SIZES;
-BENCHMARK(bm_32f16s_volk)->Name("Convert_32f16s_Sfs/volk")->CONVERT_SIZES;
-#endif

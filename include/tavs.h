@@ -132,9 +132,402 @@ Status tavsPackBits_32u8u(const Tav32u* src, const Tav32s* bitCounts, int len, T
 
 /* @@ARITH21@@ (add, subtract, multiply, add product, square, abs) */
 
+/* Operand order: Add dst = src1 + src2; Sub dst = src2 - src1 (in place:
+ * srcDst = srcDst - src); Mul dst = src1 * src2; AddProduct dst += src1 * src2.
+ * Integer forms saturate; _Sfs forms scale by 2^-scaleFactor with ties to even. */
+
+/* ---- add ----------------------------------------------------------------- */
+/* dst = sat(src1 + src2). */
+Status tavsAdd_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* srcDst = sat(src + srcDst). */
+Status tavsAdd_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = (float)src1 + (float)src2. */
+Status tavsAdd_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* srcDst = sat32(srcDst + src). */
+Status tavsAdd_16s32s_I(const Tav16s* src, Tav32s* srcDst, int len);
+/* Complex in-place scaled sum, parts independently; length tested first. */
+Status tavsAdd_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled sum, parts independently; length tested first. */
+Status tavsAdd_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* dst = sat(src1 + src2). */
+Status tavsAdd_16u(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src1 + src2. */
+Status tavsAdd_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* srcDst = src + srcDst. */
+Status tavsAdd_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex sum; length tested first. */
+Status tavsAdd_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* Complex in-place sum; length tested first. */
+Status tavsAdd_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled sum; length tested first. */
+Status tavsAdd_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled sum; length tested first. */
+Status tavsAdd_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = min(src1 + src2, 4294967295). */
+Status tavsAdd_32u(const Tav32u* src1, const Tav32u* src2, Tav32u* dst, int len);
+/* dst = src1 + src2. */
+Status tavsAdd_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = src + srcDst. */
+Status tavsAdd_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex sum; length tested first. */
+Status tavsAdd_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* Complex in-place sum; length tested first. */
+Status tavsAdd_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* dst = saturating 64-bit sum, then scaled. */
+Status tavsAdd_64s_Sfs(const Tav64s* src1, const Tav64s* src2, Tav64s* dst, int len, int scaleFactor);
+/* dst = src1 + src2, exact in 16u. */
+Status tavsAdd_8u16u(const Tav8u* src1, const Tav8u* src2, Tav16u* dst, int len);
+/* srcDst = sat((src + srcDst) * 2^-scaleFactor). */
+Status tavsAdd_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat((src1 + src2) * 2^-scaleFactor). */
+Status tavsAdd_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- subtract: the second operand minus the first ------------------------ */
+/* dst = sat(src2 - src1). */
+Status tavsSub_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* srcDst = sat(srcDst - src). */
+Status tavsSub_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = (float)src2 - (float)src1. */
+Status tavsSub_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* Complex in-place scaled difference; length tested first. */
+Status tavsSub_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled difference src2 - src1; length tested first. */
+Status tavsSub_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src2 - src1. */
+Status tavsSub_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* srcDst = srcDst - src. */
+Status tavsSub_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex difference src2 - src1; length tested first. */
+Status tavsSub_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* Complex in-place difference; length tested first. */
+Status tavsSub_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled difference; length tested first. */
+Status tavsSub_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled difference src2 - src1; length tested first. */
+Status tavsSub_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = src2 - src1. */
+Status tavsSub_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = srcDst - src. */
+Status tavsSub_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex difference src2 - src1; length tested first. */
+Status tavsSub_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* Complex in-place difference; length tested first. */
+Status tavsSub_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* srcDst = sat((srcDst - src) * 2^-scaleFactor). */
+Status tavsSub_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat((src2 - src1) * 2^-scaleFactor). */
+Status tavsSub_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- multiply -------------------------------------------------------------- */
+/* dst = sat(src1 * src2). */
+Status tavsMul_16s(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len);
+/* dst = (float)src1 * (float)src2. */
+Status tavsMul_16s32f(const Tav16s* src1, const Tav16s* src2, Tav32f* dst, int len);
+/* 32s dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src). */
+Status tavsMul_16s_I(const Tav16s* src, Tav16s* srcDst, int len);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* Complex in-place scaled product. */
+Status tavsMul_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex scaled product; src2 == dst goes to the in-place form. */
+Status tavsMul_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+/* 16s dst = sat(16u src1 * 16s src2 * 2^-scaleFactor). */
+Status tavsMul_16u16s_Sfs(const Tav16u* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+/* dst = src1 * src2. */
+Status tavsMul_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* dst[i] = src1[i] times both parts of src2[i]. */
+Status tavsMul_32f32fc(const Tav32f* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* srcDst[i] = src[i] times both parts of srcDst[i]. */
+Status tavsMul_32f32fc_I(const Tav32f* src, Tav32fc* srcDst, int len);
+/* srcDst = srcDst * src. */
+Status tavsMul_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* Complex product, re = b.re*a.re + (-a.im)*b.im, im = a.im*b.re + a.re*b.im. */
+Status tavsMul_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* srcDst = srcDst * src, complex. */
+Status tavsMul_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+/* srcDst[i] = srcDst[i] times the 32s src[i], each part scaled. */
+Status tavsMul_32s32sc_ISfs(const Tav32s* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* dst[i] = src1[i] times both parts of src2[i], each part scaled. */
+Status tavsMul_32s32sc_Sfs(const Tav32s* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* Complex in-place scaled product. */
+Status tavsMul_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
+/* Complex scaled product; src2 == dst goes to the in-place form. */
+Status tavsMul_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+/* dst = src1 * src2. */
+Status tavsMul_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* srcDst = srcDst * src. */
+Status tavsMul_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* Complex product, re = a.re*b.re - a.im*b.im, im = a.im*b.re + a.re*b.im. */
+Status tavsMul_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* srcDst = srcDst * src, complex. */
+Status tavsMul_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* dst = src1 * src2, exact in 16u. */
+Status tavsMul_8u16u(const Tav8u* src1, const Tav8u* src2, Tav16u* dst, int len);
+/* srcDst = sat(srcDst * src * 2^-scaleFactor). */
+Status tavsMul_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat(src1 * src2 * 2^-scaleFactor). */
+Status tavsMul_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+/* Low 32 bits of the 64-bit product shifted by scaleFactor, truncating, no saturation. */
+Status tavsMul_Low_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+
+/* ---- add product: dst is read as an accumulator ---------------------------- */
+/* 32s dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* dst, int len, int scaleFactor);
+/* dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+/* dst = dst + src1 * src2. */
+Status tavsAddProduct_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+/* dst += src1 * src2, complex: re = a.re*b.re - a.im*b.im + dst.re, im = a.re*b.im + b.re*a.im + dst.im. */
+Status tavsAddProduct_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+/* dst = sat((dst + src1 * src2) * 2^-scaleFactor). */
+Status tavsAddProduct_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+/* dst = dst + src1 * src2. */
+Status tavsAddProduct_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+/* dst += src1 * src2, complex, in the order of tavsAddProduct_32fc. */
+Status tavsAddProduct_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+/* dst = dst + src * val. */
+Status tavsAddProductC_32f(const Tav32f* src, Tav32f val, Tav32f* dst, int len);
+
+/* ---- square -------------------------------------------------------------- */
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_16s_ISfs(Tav16s* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_16s_Sfs(const Tav16s* src, Tav16s* dst, int len, int scaleFactor);
+/* Complex square in place, scaled. */
+Status tavsSqr_16sc_ISfs(Tav16sc* srcDst, int len, int scaleFactor);
+/* Complex square, scaled. */
+Status tavsSqr_16sc_Sfs(const Tav16sc* src, Tav16sc* dst, int len, int scaleFactor);
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_16u_ISfs(Tav16u* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_16u_Sfs(const Tav16u* src, Tav16u* dst, int len, int scaleFactor);
+/* dst = src * src. */
+Status tavsSqr_32f(const Tav32f* src, Tav32f* dst, int len);
+/* srcDst = srcDst * srcDst. */
+Status tavsSqr_32f_I(Tav32f* srcDst, int len);
+/* Complex square as the complex product of the element with itself. */
+Status tavsSqr_32fc(const Tav32fc* src, Tav32fc* dst, int len);
+/* Complex square in place. */
+Status tavsSqr_32fc_I(Tav32fc* srcDst, int len);
+/* dst = src * src. */
+Status tavsSqr_64f(const Tav64f* src, Tav64f* dst, int len);
+/* srcDst = srcDst * srcDst. */
+Status tavsSqr_64f_I(Tav64f* srcDst, int len);
+/* Complex square as the complex product of the element with itself. */
+Status tavsSqr_64fc(const Tav64fc* src, Tav64fc* dst, int len);
+/* Complex square in place. */
+Status tavsSqr_64fc_I(Tav64fc* srcDst, int len);
+/* srcDst = sat(srcDst^2 * 2^-scaleFactor). */
+Status tavsSqr_8u_ISfs(Tav8u* srcDst, int len, int scaleFactor);
+/* dst = sat(src^2 * 2^-scaleFactor). */
+Status tavsSqr_8u_Sfs(const Tav8u* src, Tav8u* dst, int len, int scaleFactor);
+
+/* ---- absolute value: integers saturate, floats clear the sign bit -------- */
+Status tavsAbs_16s(const Tav16s* src, Tav16s* dst, int len);
+Status tavsAbs_16s_I(Tav16s* srcDst, int len);
+Status tavsAbs_32f(const Tav32f* src, Tav32f* dst, int len);
+Status tavsAbs_32f_I(Tav32f* srcDst, int len);
+Status tavsAbs_32s(const Tav32s* src, Tav32s* dst, int len);
+Status tavsAbs_32s_I(Tav32s* srcDst, int len);
+Status tavsAbs_64f(const Tav64f* src, Tav64f* dst, int len);
+Status tavsAbs_64f_I(Tav64f* srcDst, int len);
+
 /* @@ARITH22@@ (constant forms) */
+/* ---- constant forms: out of place (src, value, dst, len), in place (value, srcDst, len);
+ * integer forms saturate, _Sfs forms scale by 2^-scaleFactor with ties to even ---- */
+/* AddC: dst = src + value. Out of place, value 0 copies src (integer forms: at scale 0). */
+Status tavsAddC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsAddC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsAddC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsAddC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsAddC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsAddC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsAddC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsAddC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsAddC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsAddC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsAddC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsAddC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsAddC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsAddC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsAddC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsAddC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsAddC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsAddC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsAddC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsAddC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsAddC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* Six arguments: only len == 0 is refused (len is read as unsigned); rndMode 0 truncates,
+ * 1 rounds ties to even, any other value rounds half away from zero. */
+Status tavsAddC_64s_Sfs(const Tav64s* src, Tav64s value, Tav64s* dst, int len, int scaleFactor, int rndMode);
+Status tavsAddC_64u_Sfs(const Tav64u* src, Tav64u value, Tav64u* dst, int len, int scaleFactor, int rndMode);
+/* SubC: dst = src - value. Out of place, value 0 copies src (integer forms: at scale 0). */
+Status tavsSubC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsSubC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsSubC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsSubC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsSubC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsSubC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsSubC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsSubC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsSubC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsSubC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsSubC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsSubC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsSubC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsSubC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsSubC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsSubC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsSubC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsSubC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsSubC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsSubC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsSubC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* SubCRev: dst = value - src. */
+Status tavsSubCRev_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsSubCRev_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsSubCRev_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsSubCRev_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsSubCRev_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsSubCRev_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsSubCRev_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsSubCRev_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsSubCRev_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsSubCRev_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsSubCRev_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsSubCRev_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsSubCRev_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsSubCRev_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsSubCRev_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* MulC: dst = src * value. Real floats: value 1 copies (in place: nothing to do), value 0
+ * stores +0 for every element, NaN and Inf included; integers: value 0 stores 0. */
+Status tavsMulC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsMulC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsMulC_16s_I(Tav16s value, Tav16s* srcDst, int len);
+Status tavsMulC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsMulC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsMulC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsMulC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsMulC_32s_Sfs(const Tav32s* src, Tav32s value, Tav32s* dst, int len, int scaleFactor);
+Status tavsMulC_32s_ISfs(Tav32s value, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsMulC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsMulC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsMulC_32sc_Sfs(const Tav32sc* src, Tav32sc value, Tav32sc* dst, int len, int scaleFactor);
+Status tavsMulC_32sc_ISfs(Tav32sc value, Tav32sc* srcDst, int len, int scaleFactor);
+Status tavsMulC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsMulC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsMulC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsMulC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsMulC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsMulC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsMulC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsMulC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* In place at 128-bit width; scale above 126 or value 0 fills with zero. */
+Status tavsMulC_64s_ISfs(Tav64s value, Tav64s* srcDst, int len, int scaleFactor);
+/* The 64f value as integer mantissa and binary exponent, through tavsMulC_64s_ISfs. */
+Status tavsMulC_64f64s_ISfs(Tav64f value, Tav64s* srcDst, int len, int scaleFactor);
+/* dst = round(src * value * 2^-scaleFactor), clamped to the 16s range in float. */
+Status tavsMulC_32f16s_Sfs(const Tav32f* src, Tav32f value, Tav16s* dst, int len, int scaleFactor);
+/* dst = src * value nudged by one float epsilon away from zero, then truncated. */
+Status tavsMulC_Low_32f16s(const Tav32f* src, Tav32f value, Tav16s* dst, int len);
 
 /* @@ARITH23@@ (division) */
+/* ---- Div: dst = src2 / src1 (src1 is the divisor); _I: srcDst = srcDst / src.
+ * A zero divisor gives +-Inf or the negative quiet NaN (floats), the type's limit by the
+ * dividend's sign or 0 (integers), and WarnDivByZero once the whole vector is done ---- */
+Status tavsDiv_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
+Status tavsDiv_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsDiv_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsDiv_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsDiv_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+Status tavsDiv_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsDiv_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+Status tavsDiv_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
+Status tavsDiv_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+Status tavsDiv_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+/* Divisor 16s, dividend 32s, result 16s. */
+Status tavsDiv_32s16s_Sfs(const Tav16s* src1, const Tav32s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsDiv_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+Status tavsDiv_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+Status tavsDiv_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+Status tavsDiv_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+Status tavsDiv_32fc(const Tav32fc* src1, const Tav32fc* src2, Tav32fc* dst, int len);
+Status tavsDiv_32fc_I(const Tav32fc* src, Tav32fc* srcDst, int len);
+Status tavsDiv_64fc(const Tav64fc* src1, const Tav64fc* src2, Tav64fc* dst, int len);
+Status tavsDiv_64fc_I(const Tav64fc* src, Tav64fc* srcDst, int len);
+/* Div_Round: the quotient scaled, then rounded by rndMode (0, 1, 2; others ErrRoundMode). */
+Status tavsDiv_Round_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int rndMode, int scaleFactor);
+Status tavsDiv_Round_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int rndMode, int scaleFactor);
+/* DivC: dst = src / value (32f: tavsMulC_32f by 1 / value; integer forms by the scaled
+ * reciprocal in float); value 0 gives ErrDivByZero and writes nothing. */
+Status tavsDivC_8u_Sfs(const Tav8u* src, Tav8u value, Tav8u* dst, int len, int scaleFactor);
+Status tavsDivC_8u_ISfs(Tav8u value, Tav8u* srcDst, int len, int scaleFactor);
+Status tavsDivC_16s_Sfs(const Tav16s* src, Tav16s value, Tav16s* dst, int len, int scaleFactor);
+Status tavsDivC_16s_ISfs(Tav16s value, Tav16s* srcDst, int len, int scaleFactor);
+Status tavsDivC_16u_Sfs(const Tav16u* src, Tav16u value, Tav16u* dst, int len, int scaleFactor);
+Status tavsDivC_16u_ISfs(Tav16u value, Tav16u* srcDst, int len, int scaleFactor);
+Status tavsDivC_16sc_Sfs(const Tav16sc* src, Tav16sc value, Tav16sc* dst, int len, int scaleFactor);
+Status tavsDivC_16sc_ISfs(Tav16sc value, Tav16sc* srcDst, int len, int scaleFactor);
+Status tavsDivC_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsDivC_32f_I(Tav32f value, Tav32f* srcDst, int len);
+Status tavsDivC_64f(const Tav64f* src, Tav64f value, Tav64f* dst, int len);
+Status tavsDivC_64f_I(Tav64f value, Tav64f* srcDst, int len);
+Status tavsDivC_32fc(const Tav32fc* src, Tav32fc value, Tav32fc* dst, int len);
+Status tavsDivC_32fc_I(Tav32fc value, Tav32fc* srcDst, int len);
+Status tavsDivC_64fc(const Tav64fc* src, Tav64fc value, Tav64fc* dst, int len);
+Status tavsDivC_64fc_I(Tav64fc value, Tav64fc* srcDst, int len);
+/* Value 0 saturates non-zero elements by sign and returns WarnDivByZero. */
+Status tavsDivC_64s_ISfs(Tav64s value, Tav64s* srcDst, int len, int scaleFactor);
+/* DivCRev: dst = value / src; a zero element follows the zero-divisor rule. */
+Status tavsDivCRev_16u(const Tav16u* src, Tav16u value, Tav16u* dst, int len);
+Status tavsDivCRev_16u_I(Tav16u value, Tav16u* srcDst, int len);
+Status tavsDivCRev_32f(const Tav32f* src, Tav32f value, Tav32f* dst, int len);
+Status tavsDivCRev_32f_I(Tav32f value, Tav32f* srcDst, int len);
 
 /* @@ARITH24@@ (conversion) */
 /* ---- widening -------------------------------------------------------- */
