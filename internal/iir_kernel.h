@@ -26,27 +26,22 @@ template <class T> inline void st(void* p, int i, T v)
     std::memcpy(static_cast<unsigned char*>(p) + size_t(i) * sizeof(T), &v, sizeof(T));
 }
 
-// Transposed direct form II of order n over taps b[0..n] and a[1..n] (a[i]
-// held at taps[n+i]) and the delay d[0..n] (d[n] stays 0). From order 2 on,
-// samples go in pairs; an odd last sample takes the one-sample step. Order 0
-// is a plain scale by b0.
-template <class T, class In, class Out>
-inline void run_arb(const T* taps, T* d, int n, int len, In in, Out out)
+// Transposed direct form II of order n over b[0..n], a[1..n] and the delay
+// d[0..n] (d[n] stays 0). From order 2 on, samples go in pairs; an odd last
+// sample takes the one-sample step. N > 0 fixes the order at compile time,
+// so that the compiler can keep taps and delay in registers; N = 0 reads it
+// from n.
+template <int N, class T, class In, class Out>
+inline void arb_steps(const T* b, const T* a, T* d, int n, int len, In in, Out out)
 {
-    const T* b = taps;
-    const T* a = taps + n;
+    if constexpr (N > 0) n = N;
     int i = 0;
-    if (n == 0) {
-        const T b0 = b[0];
-        for (; i < len; ++i)
-            out(i, b0 * in(i));
-        return;
-    }
     if (n >= 2) {
         for (; i + 1 < len; i += 2) {
             const T x0 = in(i), x1 = in(i + 1);
             const T y0 = b[0] * x0 + d[0];
             const T y1 = b[0] * x1 + d[1] + b[1] * x0 - a[1] * y0;
+#pragma GCC unroll 16
             for (int k = 0; k <= n - 2; ++k)
                 d[k] = b[k + 1] * x1 - a[k + 1] * y1 + b[k + 2] * x0 - a[k + 2] * y0 + d[k + 2];
             d[n - 1] = b[n] * x1 - a[n] * y1;
@@ -57,6 +52,7 @@ inline void run_arb(const T* taps, T* d, int n, int len, In in, Out out)
     for (; i < len; ++i) {
         const T x = in(i);
         const T y = b[0] * x + d[0];
+#pragma GCC unroll 16
         for (int k = 0; k <= n - 2; ++k)
             d[k] = b[k + 1] * x - a[k + 1] * y + d[k + 1];
         d[n - 1] = b[n] * x - a[n] * y;
@@ -64,23 +60,121 @@ inline void run_arb(const T* taps, T* d, int n, int len, In in, Out out)
     }
 }
 
-// Cascade of m second-order sections in transposed direct form II, held
-// taps b0 b1 b2 a1 a2 and delay d0 d1 per section; every section of one
-// sample runs before the next sample.
-template <class T, class In, class Out>
-inline void run_bq(const T* taps, T* d, int m, int len, In in, Out out)
+// Order N fixed: taps and delay copied to locals, the delay copied back.
+template <int N, class T, class In, class Out>
+inline void arb_fixed(const T* taps, T* dly, int len, In in, Out out)
 {
+    T b[N + 1], a[N + 1], d[N + 1];
+#pragma GCC unroll 16
+    for (int i = 0; i <= N; ++i) {
+        b[i] = taps[i];
+        a[i] = i ? taps[N + i] : T{};
+        d[i] = dly[i];
+    }
+    arb_steps<N>(b, a, d, N, len, in, out);
+#pragma GCC unroll 16
+    for (int i = 0; i < N; ++i)
+        dly[i] = d[i];
+}
+
+// Order n over held taps b[0..n], a[i] at taps[n+i]. Order 0 is a plain
+// scale by b0.
+template <class T, class In, class Out>
+inline void run_arb(const T* taps, T* d, int n, int len, In in, Out out)
+{
+    switch (n) {
+    case 0: {
+        const T b0 = taps[0];
+        for (int i = 0; i < len; ++i)
+            out(i, b0 * in(i));
+        return;
+    }
+    case 1:
+        return arb_fixed<1>(taps, d, len, in, out);
+    case 2:
+        return arb_fixed<2>(taps, d, len, in, out);
+    case 3:
+        return arb_fixed<3>(taps, d, len, in, out);
+    case 4:
+        return arb_fixed<4>(taps, d, len, in, out);
+    case 5:
+        return arb_fixed<5>(taps, d, len, in, out);
+    case 6:
+        return arb_fixed<6>(taps, d, len, in, out);
+    case 7:
+        return arb_fixed<7>(taps, d, len, in, out);
+    case 8:
+        return arb_fixed<8>(taps, d, len, in, out);
+    default:
+        return arb_steps<0>(taps, taps + n, d, n, len, in, out);
+    }
+}
+
+// M second-order sections in transposed direct form II, held taps b0 b1 b2
+// a1 a2 and delay d0 d1 per section, every section of one sample before the
+// next sample; taps and delay in locals.
+template <int M, class T, class In, class Out>
+inline void bq_fixed(const T* taps, T* dly, int len, In in, Out out)
+{
+    T c[5 * M], s[2 * M];
+#pragma GCC unroll 20
+    for (int i = 0; i < 5 * M; ++i)
+        c[i] = taps[i];
+#pragma GCC unroll 8
+    for (int i = 0; i < 2 * M; ++i)
+        s[i] = dly[i];
     for (int i = 0; i < len; ++i) {
         T x = in(i);
-        for (int k = 0; k < m; ++k) {
-            const T* c = taps + 5 * k;
-            T* s = d + 2 * k;
-            const T y = c[0] * x + s[0];
-            s[0] = c[1] * x + s[1] - c[3] * y;
-            s[1] = c[2] * x - c[4] * y;
+#pragma GCC unroll 4
+        for (int k = 0; k < M; ++k) {
+            const T y = c[5 * k] * x + s[2 * k];
+            s[2 * k] = c[5 * k + 1] * x + s[2 * k + 1] - c[5 * k + 3] * y;
+            s[2 * k + 1] = c[5 * k + 2] * x - c[5 * k + 4] * y;
             x = y;
         }
         out(i, x);
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < 2 * M; ++i)
+        dly[i] = s[i];
+}
+
+template <class T, class In, class Out>
+inline void bq_group(int m, const T* taps, T* d, int len, In in, Out out)
+{
+    switch (m) {
+    case 1:
+        return bq_fixed<1>(taps, d, len, in, out);
+    case 2:
+        return bq_fixed<2>(taps, d, len, in, out);
+    case 3:
+        return bq_fixed<3>(taps, d, len, in, out);
+    default:
+        return bq_fixed<4>(taps, d, len, in, out);
+    }
+}
+
+// Cascade of m sections. Up to four run sample by sample in one pass. A
+// longer cascade runs in groups of four over chunks of samples held in a
+// local buffer: every section still sees the same inputs in the same order,
+// so each output is the one of the sample-by-sample cascade. All inputs of a
+// chunk are read before its outputs are stored, so in place works.
+template <class T, class In, class Out>
+inline void run_bq(const T* taps, T* d, int m, int len, In in, Out out)
+{
+    if (m <= 4) return bq_group(m, taps, d, len, in, out);
+    constexpr int kChunk = 128;
+    T buf[kChunk];
+    auto from_buf = [&buf](int i) { return buf[i]; };
+    auto to_buf = [&buf](int i, T y) { buf[i] = y; };
+    for (int i0 = 0; i0 < len; i0 += kChunk) {
+        const int cnt = len - i0 < kChunk ? len - i0 : kChunk;
+        bq_fixed<4>(
+            taps, d, cnt, [&](int i) { return in(i0 + i); }, to_buf);
+        int k = 4;
+        for (; m - k > 4; k += 4)
+            bq_fixed<4>(taps + 5 * k, d + 2 * k, cnt, from_buf, to_buf);
+        bq_group(m - k, taps + 5 * k, d + 2 * k, cnt, from_buf, [&](int i, T y) { out(i0 + i, y); });
     }
 }
 

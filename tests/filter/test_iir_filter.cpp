@@ -46,7 +46,8 @@ template <class K, class M> void stream_check(typename K::R* st, M& model, tt::R
     using Data = typename K::Data;
     using Model = typename K::Model;
     for (int c = 0; c < calls; ++c) {
-        const int len = int(g.range(1, 70));
+        // One long call crosses the chunks that long cascades run in.
+        const int len = c == 1 ? int(g.range(129, 400)) : int(g.range(1, 70));
         auto x = kind_data<Data>(g, len);
         std::vector<Data> want(static_cast<size_t>(len));
         const int mode = int(g.range(0, 3));
@@ -104,7 +105,7 @@ TYPED_TEST(IirFloat, BiquadCascadeMatchesTheModelBitForBit)
     using K = TypeParam;
     using Model = typename K::Model;
     tt::Rng g(202);
-    for (int m = 1; m <= 6; ++m) {
+    for (int m : {1, 2, 3, 4, 5, 6, 8, 9}) {
         auto taps = kind_taps<K>(g, bq_taps(g, m), 2, true);
         auto dly0 = kind_data<typename K::Tap>(g, 2 * m, 0.25);
         Rec<K> rec(taps, m, true, dly0.data(), size_t(g.range(0, 63)));
