@@ -6,9 +6,10 @@
 // taps and delay scaled by 2^-s in 32f, the 32f_16s kernel at scale 0, and
 // the delay scaled back by 2^s, rounded half away from zero to 32s. The
 // one-sample forms run in wrapped 32-bit integers.
+#include "internal/body.h"
+
 #include <cmath>
 
-#include "internal/body.h"
 #include "internal/convert.h"
 #include "internal/fixed.h"
 #include "internal/iir_state.h"

@@ -1,7 +1,8 @@
 // Sizes, Free, new taps and delay-line copies of the recursive-filter
 // records: each body is the record's template with its layout.
-#include "internal/iir_state.h"
 #include "internal/body.h"
+
+#include "internal/iir_state.h"
 
 using namespace tavs::iir;
 
