@@ -1,0 +1,41 @@
+// The FFT's kernels by role: direct kernels of lengths 1 to 32, the radix-4
+// in-place kernel, the bit-reversal permutations and the scale pass, each
+// for interleaved and split data in 32f and 64f.
+#pragma once
+
+#include <cstdint>
+
+namespace tavs::fft {
+
+// Direct transform of 2^m points, m <= 5, natural order in and out. Every
+// input is read before any output is written, so src may equal dst.
+template <class S> void direct_interleaved(int m, bool inverse, bool scaled, S scale, const S* src, S* dst);
+template <class S>
+void direct_split(int m, bool inverse, bool scaled, S scale, const S* srcRe, const S* srcIm, S* dstRe, S* dstIm);
+
+// Radix-4 decimation in time, in place over bit-reversed input, with the
+// RadixFourTwiddles table of length N (N a power of two, N >= 4).
+template <class S, bool Inverse> void radix4_interleaved(S* d, int64_t N, const S* tw);
+template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw);
+
+// Four transforms of length R side by side: d holds R rows of four complex
+// values (64-byte aligned), column j of the rows being transform j.
+template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw);
+
+// The interleaved kernel split in two: its first pass (stage one with the
+// span-8 or span-16 stage, by the parity of the order of L) fused with the
+// out-of-place bit reversal of all N values, and the stages after it. For
+// data made of kernels of length L (rows or blocks), permute_first_pass then
+// radix4_after_first on each piece equals permute_copy then radix4.
+template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, int64_t N, int64_t L, const S* tw);
+template <class S, bool Inverse> void radix4_after_first(S* d, int64_t N, const S* tw);
+
+// Bit reversal of N elements through the swap list of N: in place, or from
+// src into dst (src untouched, every element of dst written once).
+template <class E> void permute_in_place(E* a, const int32_t* list, int64_t N);
+template <class E> void permute_copy(const E* src, E* dst, const int32_t* list, int64_t N);
+
+// p[i] *= s for i < n.
+template <class S> void scale_values(S* p, int64_t n, S s);
+
+} // namespace tavs::fft
