@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "internal/record.h"
 #include "internal/types.h"
 
 namespace tavs::iir {
@@ -57,9 +58,6 @@ enum class Layout { Arb, Bq, Df1, None };
 
 // Size classes of the state-size table.
 enum class Cls { F32, C32, F64, C64 };
-
-constexpr int64_t a16(int64_t v) { return (v + 15) & ~int64_t(15); }
-constexpr int64_t a32(int64_t v) { return (v + 31) & ~int64_t(31); }
 
 // Bytes a record of order n (or n sections) needs, including the slack
 // that aligning the caller's block up to 32 bytes may take. Computed in 64
