@@ -8,6 +8,7 @@
 #include <limits>
 #include <vector>
 
+#include "alloc_fault.h"
 #include "iir_kinds.h"
 #include "internal/iir.h"
 
@@ -45,6 +46,7 @@ template <class K, class M> void stream_check(typename K::R* st, M& model, tt::R
 {
     using Data = typename K::Data;
     using Model = typename K::Model;
+    const long allocs = tt::alloc_calls(); // filtering never allocates
     for (int c = 0; c < calls; ++c) {
         // One long call crosses the chunks that long cascades run in.
         const int len = c == 1 ? int(g.range(129, 400)) : int(g.range(1, 70));
@@ -73,6 +75,7 @@ template <class K, class M> void stream_check(typename K::R* st, M& model, tt::R
         ASSERT_TRUE(same_elems<K>(out.data(), want.data(), len)) << "call " << c << " len " << len;
         ASSERT_TRUE(out.borders_intact());
     }
+    EXPECT_EQ(tt::alloc_calls(), allocs);
 }
 
 TYPED_TEST(IirFloat, ArbitraryOrderMatchesTheModelBitForBit)
