@@ -1157,6 +1157,492 @@ Status tavsNormalize_16s_Sfs(const Tav16s* src, Tav16s* dst, int len, Tav16s off
 Status tavsNormalize_16sc_Sfs(const Tav16sc* src, Tav16sc* dst, int len, Tav16sc offset, int divisor,
                               int scaleFactor);
 
+/* ==== Filtering ========================================================== */
+
+/* @@IIR@@ (recursive filters) */
+/* Recursive filter records, one kind per taps/data pair. Each holds the taps
+ * divided by a0 and the delay line; the block comes from the caller (Init, sized
+ * by GetStateSize) or from InitAlloc, which Free releases. Arbitrary order n:
+ * taps b0..bn, a0, a1..an, delay of n values. Biquad cascade of numBq sections:
+ * b0 b1 b2 a0 a1 a2 per section, delay of 2 values each. Direct form I: the
+ * biquad taps, delay x[-2] x[-1] y[-2] y[-1] per section. */
+typedef struct IIRState_32f IIRState_32f;
+typedef struct IIRState_32fc IIRState_32fc;
+typedef struct IIRState32f_16s IIRState32f_16s;
+typedef struct IIRState32fc_16sc IIRState32fc_16sc;
+typedef struct IIRState32s_16s IIRState32s_16s;
+typedef struct IIRState32sc_16sc IIRState32sc_16sc;
+typedef struct IIRState_64f IIRState_64f;
+typedef struct IIRState_64fc IIRState_64fc;
+typedef struct IIRState64f_32f IIRState64f_32f;
+typedef struct IIRState64fc_32fc IIRState64fc_32fc;
+typedef struct IIRState64f_32s IIRState64f_32s;
+typedef struct IIRState64fc_32sc IIRState64fc_32sc;
+typedef struct IIRState64f_16s IIRState64f_16s;
+typedef struct IIRState64fc_16sc IIRState64fc_16sc;
+
+/* ---- IIRState_32f ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_32f(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_32f(IIRState_32f** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_32f(IIRState_32f** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_BiQuad_32f(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_BiQuad_32f(IIRState_32f** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_BiQuad_32f(IIRState_32f** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine);
+/* Bytes for Init of a direct form I record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_BiQuad_DF1_32f(int numBq, int* pBufferSize);
+/* Lays a direct form I record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_BiQuad_DF1_32f(IIRState_32f** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_BiQuad_DF1_32f(IIRState_32f** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree_32f(IIRState_32f* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps_32f(const Tav32f* pTaps, IIRState_32f* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine_32f(const IIRState_32f* pState, Tav32f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine_32f(IIRState_32f* pState, const Tav32f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR_32f(const Tav32f* pSrc, Tav32f* pDst, int len, IIRState_32f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_32f_I(Tav32f* pSrcDst, int len, IIRState_32f* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne_32f(Tav32f src, Tav32f* pDstVal, IIRState_32f* pState);
+/* One record per channel, channels in order (biquad and direct form I records). */
+Status tavsIIR_32f_P(const Tav32f** pSrc, Tav32f** pDst, int len, int numChannels, IIRState_32f** ppState);
+/* One record per channel, channels in order (biquad and direct form I records). */
+Status tavsIIR_32f_IP(Tav32f** pSrcDst, int len, int numChannels, IIRState_32f** ppState);
+
+/* ---- IIRState_32fc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_32fc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_32fc(IIRState_32fc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_32fc(IIRState_32fc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_BiQuad_32fc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_BiQuad_32fc(IIRState_32fc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_BiQuad_32fc(IIRState_32fc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree_32fc(IIRState_32fc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps_32fc(const Tav32fc* pTaps, IIRState_32fc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine_32fc(const IIRState_32fc* pState, Tav32fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine_32fc(IIRState_32fc* pState, const Tav32fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, IIRState_32fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_32fc_I(Tav32fc* pSrcDst, int len, IIRState_32fc* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne_32fc(Tav32fc src, Tav32fc* pDstVal, IIRState_32fc* pState);
+
+/* ---- IIRState32f_16s ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32f_16s(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32f_16s(IIRState32f_16s** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32f_16s(IIRState32f_16s** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32f_BiQuad_16s(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32f_BiQuad_16s(IIRState32f_16s** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32f_BiQuad_16s(IIRState32f_16s** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree32f_16s(IIRState32f_16s* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps32f_16s(const Tav32f* pTaps, IIRState32f_16s* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine32f_16s(const IIRState32f_16s* pState, Tav32f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine32f_16s(IIRState32f_16s* pState, const Tav32f* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR32f_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, IIRState32f_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR32f_16s_ISfs(Tav16s* pSrcDst, int len, IIRState32f_16s* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne32f_16s_Sfs(Tav16s src, Tav16s* pDstVal, IIRState32f_16s* pState, int scaleFactor);
+
+/* ---- IIRState32fc_16sc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32fc_16sc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32fc_16sc(IIRState32fc_16sc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32fc_16sc(IIRState32fc_16sc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32fc_BiQuad_16sc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32fc_BiQuad_16sc(IIRState32fc_16sc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32fc_BiQuad_16sc(IIRState32fc_16sc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree32fc_16sc(IIRState32fc_16sc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps32fc_16sc(const Tav32fc* pTaps, IIRState32fc_16sc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine32fc_16sc(const IIRState32fc_16sc* pState, Tav32fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine32fc_16sc(IIRState32fc_16sc* pState, const Tav32fc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR32fc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, IIRState32fc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR32fc_16sc_ISfs(Tav16sc* pSrcDst, int len, IIRState32fc_16sc* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne32fc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, IIRState32fc_16sc* pState, int scaleFactor);
+
+/* ---- IIRState32s_16s ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32s_16s(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf (32s taps times 2^-tapsFactor): delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32s_16s(IIRState32s_16s** ppState, const Tav32s* pTaps, int order, int tapsFactor, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32s_16s(IIRState32s_16s** ppState, const Tav32s* pTaps, int order, int tapsFactor, const Tav32f* pDlyLine);
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32s_16s32f(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32s_16s32f(IIRState32s_16s** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32s_16s32f(IIRState32s_16s** ppState, const Tav32f* pTaps, int order, const Tav32f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32s_BiQuad_16s(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf (32s taps times 2^-tapsFactor): delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32s_BiQuad_16s(IIRState32s_16s** ppState, const Tav32s* pTaps, int numBq, int tapsFactor, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32s_BiQuad_16s(IIRState32s_16s** ppState, const Tav32s* pTaps, int numBq, int tapsFactor, const Tav32f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32s_BiQuad_16s32f(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32s_BiQuad_16s32f(IIRState32s_16s** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32s_BiQuad_16s32f(IIRState32s_16s** ppState, const Tav32f* pTaps, int numBq, const Tav32f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree32s_16s(IIRState32s_16s* pState);
+/* Stores new taps over a0 (32s taps times 2^-tapsFactor); the delay line is kept. */
+Status tavsIIRSetTaps32s_16s(const Tav32s* pTaps, IIRState32s_16s* pState, int tapsFactor);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps32s_16s32f(const Tav32f* pTaps, IIRState32s_16s* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine32s_16s(const IIRState32s_16s* pState, Tav32f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine32s_16s(IIRState32s_16s* pState, const Tav32f* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR32s_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, IIRState32s_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR32s_16s_ISfs(Tav16s* pSrcDst, int len, IIRState32s_16s* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne32s_16s_Sfs(Tav16s src, Tav16s* pDstVal, IIRState32s_16s* pState, int scaleFactor);
+
+/* ---- IIRState32sc_16sc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32sc_16sc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf (32s taps times 2^-tapsFactor): delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32sc_16sc(IIRState32sc_16sc** ppState, const Tav32sc* pTaps, int order, int tapsFactor, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32sc_16sc(IIRState32sc_16sc** ppState, const Tav32sc* pTaps, int order, int tapsFactor, const Tav32fc* pDlyLine);
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32sc_16sc32fc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32sc_16sc32fc(IIRState32sc_16sc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32sc_16sc32fc(IIRState32sc_16sc** ppState, const Tav32fc* pTaps, int order, const Tav32fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32sc_BiQuad_16sc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf (32s taps times 2^-tapsFactor): delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32sc_BiQuad_16sc(IIRState32sc_16sc** ppState, const Tav32sc* pTaps, int numBq, int tapsFactor, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32sc_BiQuad_16sc(IIRState32sc_16sc** ppState, const Tav32sc* pTaps, int numBq, int tapsFactor, const Tav32fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize32sc_BiQuad_16sc32fc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit32sc_BiQuad_16sc32fc(IIRState32sc_16sc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc32sc_BiQuad_16sc32fc(IIRState32sc_16sc** ppState, const Tav32fc* pTaps, int numBq, const Tav32fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree32sc_16sc(IIRState32sc_16sc* pState);
+/* Stores new taps over a0 (32s taps times 2^-tapsFactor); the delay line is kept. */
+Status tavsIIRSetTaps32sc_16sc(const Tav32sc* pTaps, IIRState32sc_16sc* pState, int tapsFactor);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps32sc_16sc32fc(const Tav32fc* pTaps, IIRState32sc_16sc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine32sc_16sc(const IIRState32sc_16sc* pState, Tav32fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine32sc_16sc(IIRState32sc_16sc* pState, const Tav32fc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR32sc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, IIRState32sc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR32sc_16sc_ISfs(Tav16sc* pSrcDst, int len, IIRState32sc_16sc* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne32sc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, IIRState32sc_16sc* pState, int scaleFactor);
+
+/* ---- IIRState_64f ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_64f(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_64f(IIRState_64f** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_64f(IIRState_64f** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_BiQuad_64f(IIRState_64f** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_BiQuad_64f(IIRState_64f** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree_64f(IIRState_64f* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps_64f(const Tav64f* pTaps, IIRState_64f* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine_64f(const IIRState_64f* pState, Tav64f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine_64f(IIRState_64f* pState, const Tav64f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR_64f(const Tav64f* pSrc, Tav64f* pDst, int len, IIRState_64f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_64f_I(Tav64f* pSrcDst, int len, IIRState_64f* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne_64f(Tav64f src, Tav64f* pDstVal, IIRState_64f* pState);
+
+/* ---- IIRState_64fc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_64fc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_64fc(IIRState_64fc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_64fc(IIRState_64fc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit_BiQuad_64fc(IIRState_64fc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc_BiQuad_64fc(IIRState_64fc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree_64fc(IIRState_64fc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps_64fc(const Tav64fc* pTaps, IIRState_64fc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine_64fc(const IIRState_64fc* pState, Tav64fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine_64fc(IIRState_64fc* pState, const Tav64fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR_64fc(const Tav64fc* pSrc, Tav64fc* pDst, int len, IIRState_64fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_64fc_I(Tav64fc* pSrcDst, int len, IIRState_64fc* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne_64fc(Tav64fc src, Tav64fc* pDstVal, IIRState_64fc* pState);
+
+/* ---- IIRState64f_32f ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_32f(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_32f(IIRState64f_32f** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_32f(IIRState64f_32f** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_BiQuad_32f(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_BiQuad_32f(IIRState64f_32f** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_BiQuad_32f(IIRState64f_32f** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64f_32f(IIRState64f_32f* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64f_32f(const Tav64f* pTaps, IIRState64f_32f* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64f_32f(const IIRState64f_32f* pState, Tav64f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64f_32f(IIRState64f_32f* pState, const Tav64f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR64f_32f(const Tav32f* pSrc, Tav32f* pDst, int len, IIRState64f_32f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64f_32f_I(Tav32f* pSrcDst, int len, IIRState64f_32f* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne64f_32f(Tav32f src, Tav32f* pDstVal, IIRState64f_32f* pState);
+
+/* ---- IIRState64fc_32fc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_32fc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_32fc(IIRState64fc_32fc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_32fc(IIRState64fc_32fc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_BiQuad_32fc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_BiQuad_32fc(IIRState64fc_32fc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_BiQuad_32fc(IIRState64fc_32fc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64fc_32fc(IIRState64fc_32fc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64fc_32fc(const Tav64fc* pTaps, IIRState64fc_32fc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64fc_32fc(const IIRState64fc_32fc* pState, Tav64fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64fc_32fc(IIRState64fc_32fc* pState, const Tav64fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsIIR64fc_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, IIRState64fc_32fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64fc_32fc_I(Tav32fc* pSrcDst, int len, IIRState64fc_32fc* pState);
+/* Filters one sample through the record. */
+Status tavsIIROne64fc_32fc(Tav32fc src, Tav32fc* pDstVal, IIRState64fc_32fc* pState);
+
+/* ---- IIRState64f_32s ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_32s(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_BiQuad_32s(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_BiQuad_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_BiQuad_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine);
+/* Bytes for Init of a direct form I record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_BiQuad_DF1_32s(int numBq, int* pBufferSize);
+/* Lays a direct form I record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_BiQuad_DF1_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int numBq, const Tav32s* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_BiQuad_DF1_32s(IIRState64f_32s** ppState, const Tav64f* pTaps, int numBq, const Tav32s* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64f_32s(IIRState64f_32s* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64f_32s(const Tav64f* pTaps, IIRState64f_32s* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64f_32s(const IIRState64f_32s* pState, Tav64f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64f_32s(IIRState64f_32s* pState, const Tav64f* pDlyLine);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64f_DF1_32s(const IIRState64f_32s* pState, Tav32s* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64f_DF1_32s(IIRState64f_32s* pState, const Tav32s* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR64f_32s_Sfs(const Tav32s* pSrc, Tav32s* pDst, int len, IIRState64f_32s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64f_32s_ISfs(Tav32s* pSrcDst, int len, IIRState64f_32s* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne64f_32s_Sfs(Tav32s src, Tav32s* pDstVal, IIRState64f_32s* pState, int scaleFactor);
+/* One record and one scale per channel, channels in order (biquad and direct form I). */
+Status tavsIIR64f_32s_PSfs(const Tav32s** pSrc, Tav32s** pDst, int len, int numChannels, IIRState64f_32s** ppState, const int* pScaleFactor);
+/* One record and one scale per channel, channels in order (biquad and direct form I). */
+Status tavsIIR64f_32s_IPSfs(Tav32s** pSrcDst, int len, int numChannels, IIRState64f_32s** ppState, const int* pScaleFactor);
+
+/* ---- IIRState64fc_32sc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_32sc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_32sc(IIRState64fc_32sc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_32sc(IIRState64fc_32sc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_BiQuad_32sc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_BiQuad_32sc(IIRState64fc_32sc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_BiQuad_32sc(IIRState64fc_32sc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64fc_32sc(IIRState64fc_32sc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64fc_32sc(const Tav64fc* pTaps, IIRState64fc_32sc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64fc_32sc(const IIRState64fc_32sc* pState, Tav64fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64fc_32sc(IIRState64fc_32sc* pState, const Tav64fc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR64fc_32sc_Sfs(const Tav32sc* pSrc, Tav32sc* pDst, int len, IIRState64fc_32sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64fc_32sc_ISfs(Tav32sc* pSrcDst, int len, IIRState64fc_32sc* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne64fc_32sc_Sfs(Tav32sc src, Tav32sc* pDstVal, IIRState64fc_32sc* pState, int scaleFactor);
+
+/* ---- IIRState64f_16s ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_16s(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_16s(IIRState64f_16s** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_16s(IIRState64f_16s** ppState, const Tav64f* pTaps, int order, const Tav64f* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64f_BiQuad_16s(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64f_BiQuad_16s(IIRState64f_16s** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64f_BiQuad_16s(IIRState64f_16s** ppState, const Tav64f* pTaps, int numBq, const Tav64f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64f_16s(IIRState64f_16s* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64f_16s(const Tav64f* pTaps, IIRState64f_16s* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64f_16s(const IIRState64f_16s* pState, Tav64f* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64f_16s(IIRState64f_16s* pState, const Tav64f* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR64f_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, IIRState64f_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64f_16s_ISfs(Tav16s* pSrcDst, int len, IIRState64f_16s* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne64f_16s_Sfs(Tav16s src, Tav16s* pDstVal, IIRState64f_16s* pState, int scaleFactor);
+
+/* ---- IIRState64fc_16sc ---- */
+/* Bytes for Init of an arbitrary-order record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_16sc(int order, int* pBufferSize);
+/* Lays an arbitrary-order record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_16sc(IIRState64fc_16sc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_16sc(IIRState64fc_16sc** ppState, const Tav64fc* pTaps, int order, const Tav64fc* pDlyLine);
+/* Bytes for Init of a biquad-cascade record; ErrFilterOrder for a count below 1. */
+Status tavsIIRGetStateSize64fc_BiQuad_16sc(int numBq, int* pBufferSize);
+/* Lays a biquad-cascade record in pBuf: delay from pDlyLine or zeros, taps over a0. */
+Status tavsIIRInit64fc_BiQuad_16sc(IIRState64fc_16sc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine, Tav8u* pBuf);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsIIRInitAlloc64fc_BiQuad_16sc(IIRState64fc_16sc** ppState, const Tav64fc* pTaps, int numBq, const Tav64fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsIIRFree64fc_16sc(IIRState64fc_16sc* pState);
+/* Stores new taps over a0; the delay line is kept. */
+Status tavsIIRSetTaps64fc_16sc(const Tav64fc* pTaps, IIRState64fc_16sc* pState);
+/* Copies the record's dlyLen delay values to pDlyLine. */
+Status tavsIIRGetDlyLine64fc_16sc(const IIRState64fc_16sc* pState, Tav64fc* pDlyLine);
+/* Copies dlyLen delay values from pDlyLine into the record. */
+Status tavsIIRSetDlyLine64fc_16sc(IIRState64fc_16sc* pState, const Tav64fc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, limited, rounded to nearest even. */
+Status tavsIIR64fc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, IIRState64fc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR64fc_16sc_ISfs(Tav16sc* pSrcDst, int len, IIRState64fc_16sc* pState, int scaleFactor);
+/* Filters one sample; the output times 2^-scaleFactor, limited, rounded. */
+Status tavsIIROne64fc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, IIRState64fc_16sc* pState, int scaleFactor);
+
+/* ---- 16-bit direct forms: taps and a 32s delay line owned by the caller ---- */
+/* Filters len samples; taps b..a with a0 the shift, delay in 32s, no record kept. */
+Status tavsIIR_Direct_16s(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav16s* pTaps, int order, Tav32s* pDlyLine);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_Direct_16s_I(Tav16s* pSrcDst, int len, const Tav16s* pTaps, int order, Tav32s* pDlyLine);
+/* One sample in wrapped 32-bit integers; the tap list's a0 slot is the shift. */
+Status tavsIIROne_Direct_16s(Tav16s src, Tav16s* pDstVal, const Tav16s* pTaps, int order, Tav32s* pDlyLine);
+/* As the form without _I, the sample read from and written to *pSrcDst. */
+Status tavsIIROne_Direct_16s_I(Tav16s* pSrcDst, const Tav16s* pTaps, int order, Tav32s* pDlyLine);
+/* Filters len samples; taps b..a with a0 the shift, delay in 32s, no record kept. */
+Status tavsIIR_BiQuadDirect_16s(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav16s* pTaps, int numBq, Tav32s* pDlyLine);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsIIR_BiQuadDirect_16s_I(Tav16s* pSrcDst, int len, const Tav16s* pTaps, int numBq, Tav32s* pDlyLine);
+/* One sample in wrapped 32-bit integers; the tap list's a0 slot is the shift. */
+Status tavsIIROne_BiQuadDirect_16s(Tav16s src, Tav16s* pDstVal, const Tav16s* pTaps, int numBq, Tav32s* pDlyLine);
+/* As the form without _I, the sample read from and written to *pSrcDst. */
+Status tavsIIROne_BiQuadDirect_16s_I(Tav16s* pSrcDst, const Tav16s* pTaps, int numBq, Tav32s* pDlyLine);
+
 /* ==== Statistics ========================================================= */
 
 /* @@STATS@@ (sums, means, deviations, extrema, norms, dot products) */
