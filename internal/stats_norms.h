@@ -59,7 +59,7 @@ template <class S> struct SqTerms {
 };
 
 // Complex magnitudes sqrt(re^2 + im^2) over a source of interleaved parts
-// (element i is parts 2i and 2i+1), in double.
+// (element i is the values at 2i and 2i+1), in double.
 template <class S> struct MagTerms {
     S s;
     __m128d pair(int64_t i) const

@@ -33,7 +33,7 @@ struct Param {
     std::string name;
     Kind kind;
     bool isConst = false;  // points to const data (an input)
-    bool isRecord = false; // a state or specification record
+    bool isRecord = false; // a state record or a transform record
 };
 
 enum class Ret { Status, Pointer, Void };
