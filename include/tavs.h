@@ -1014,6 +1014,8 @@ Status tavsFFTInv_CToC_32f_I(Tav32f* srcDstRe, Tav32f* srcDstIm, const FFTSpec_C
 Status tavsFFTInv_CToC_64f(const Tav64f* srcRe, const Tav64f* srcIm, Tav64f* dstRe, Tav64f* dstIm, const FFTSpec_C_64f* pSpec, Tav8u* pBuffer);
 Status tavsFFTInv_CToC_64f_I(Tav64f* srcDstRe, Tav64f* srcDstIm, const FFTSpec_C_64f* pSpec, Tav8u* pBuffer);
 
+/* @@TRANSFORM33@@ (real FFT and packed spectra) */
+
 /* ==== Elementary functions =============================================== */
 
 /* @@MATH@@ */
@@ -1158,6 +1160,8 @@ Status tavsNormalize_16sc_Sfs(const Tav16sc* src, Tav16sc* dst, int len, Tav16sc
                               int scaleFactor);
 
 /* ==== Filtering ========================================================== */
+
+/* @@FIR@@ (single-rate FIR filters) */
 
 /* @@IIR@@ (recursive filters) */
 /* Recursive filter records, one kind per taps/data pair. Each holds the taps
