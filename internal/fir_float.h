@@ -148,8 +148,8 @@ template <class Size, class Init> Status init_alloc(State** pp, Size size_of, In
 template <class X> Status free_float(State* s, int32_t t1, int32_t t2, int32_t t3 = 0, int32_t t4 = 0)
 {
     if (s == nullptr) return ErrNullPtr;
-    if (s->tag != t1 && s->tag != t2 && (t3 == 0 || s->tag != t3) && (t4 == 0 || s->tag != t4))
-        return ErrContextMismatch;
+    const int32_t t = s->tag;
+    if (t == 0 || (t != t1 && t != t2 && t != t3 && t != t4)) return ErrContextMismatch;
     if (!s->isAllocated) return StatusOk;
     if (s->fftSpec != nullptr) FftOps<X>::free(s->fftSpec);
     s->tag = 0;

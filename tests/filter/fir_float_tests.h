@@ -303,6 +303,8 @@ template <class Tp, class D> void check_errors(const Kind<Tp, D>& k, void* forei
     EXPECT_EQ(k.setDly(foreign, x.data()), ErrContextMismatch);
     EXPECT_EQ(k.setDly(nullptr, x.data()), ErrNullPtr);
     EXPECT_EQ(k.free(foreign), ErrContextMismatch);
+    std::vector<unsigned char> zeroed(4096, 0);
+    EXPECT_EQ(k.free(zeroed.data()), ErrContextMismatch);
     EXPECT_EQ(k.free(nullptr), ErrNullPtr);
     // Free of an Init record does nothing and succeeds.
     EXPECT_EQ(k.free(st), StatusOk);
