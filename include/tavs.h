@@ -1015,6 +1015,42 @@ Status tavsFFTInv_CToC_64f(const Tav64f* srcRe, const Tav64f* srcIm, Tav64f* dst
 Status tavsFFTInv_CToC_64f_I(Tav64f* srcDstRe, Tav64f* srcDstIm, const FFTSpec_C_64f* pSpec, Tav8u* pBuffer);
 
 /* @@TRANSFORM33@@ (real FFT and packed spectra) */
+/* 32f: forward real FFT of N = 2^order samples to the Perm layout (N values); _I in place; wsp may be null. */
+Status tavsFFTFwd_RToPerm_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToPerm_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: forward real FFT of N = 2^order samples to the Perm layout (N values); _I in place; wsp may be null. */
+Status tavsFFTFwd_RToPerm_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToPerm_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 32f: forward real FFT of N = 2^order samples to the Pack layout (N values); _I in place; wsp may be null. */
+Status tavsFFTFwd_RToPack_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToPack_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: forward real FFT of N = 2^order samples to the Pack layout (N values); _I in place; wsp may be null. */
+Status tavsFFTFwd_RToPack_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToPack_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 32f: forward real FFT of N = 2^order samples to the CCS layout (N + 2 values; the _I buffer holds N + 2); wsp may be null. */
+Status tavsFFTFwd_RToCCS_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToCCS_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: forward real FFT of N = 2^order samples to the CCS layout (N + 2 values; the _I buffer holds N + 2); wsp may be null. */
+Status tavsFFTFwd_RToCCS_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTFwd_RToCCS_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 32f: inverse real FFT from the Perm layout to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_PermToR_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_PermToR_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: inverse real FFT from the Perm layout to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_PermToR_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_PermToR_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 32f: inverse real FFT from the Pack layout to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_PackToR_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_PackToR_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: inverse real FFT from the Pack layout to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_PackToR_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_PackToR_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 32f: inverse real FFT from the CCS layout (N + 2 values) to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_CCSToR_32f(const Tav32f* src, Tav32f* dst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_CCSToR_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u* pBuffer);
+/* 64f: inverse real FFT from the CCS layout (N + 2 values) to N = 2^order samples; _I in place; wsp may be null. */
+Status tavsFFTInv_CCSToR_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+Status tavsFFTInv_CCSToR_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
 
 /* ==== Elementary functions =============================================== */
 

@@ -1,0 +1,36 @@
+// The real FFT over the floating real records (FFTSpec_R_32f, FFTSpec_R_64f):
+// N = 2^order real samples are read as N/2 complex values, transformed with
+// the complex machinery at half length, and split into the spectrum of the
+// real signal by the post-step (the inverse undoes it with the pre-step
+// before the half-length inverse). Orders up to 5 have their own direct
+// kernels. The layouts: Perm (the kernels' own), Pack, CCS.
+#pragma once
+
+#include "internal/fft.h"
+
+namespace tavs::fft {
+
+enum class RealLayout { Perm, Pack, CCS };
+
+// Direct real kernels, order <= 5. Forward: N real samples to Perm (src may
+// equal dst). Inverse: Perm to N real samples, in place on d.
+template <class S> void real_direct_fwd(int order, bool scaled, S scale, const S* src, S* dst);
+template <class S> void real_direct_inv(int order, bool scaled, S scale, S* d);
+
+// Post-step, in place on d: the half-length spectrum Z (N/2 complex values)
+// becomes the Perm spectrum of the real signal. order >= 6.
+template <class S> void real_post_step(const FloatSpec<S>* spec, S* d);
+
+// Pre-step: the spectrum with X[0] = s0, X[N/2] = s1 and the pairs k = 1 ..
+// N/2 - 1 at src[2k], src[2k + 1] (Perm and CCS both) becomes the doubled
+// half-length spectrum in d. src may equal d. order >= 6.
+template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, S* d);
+
+// The transforms behind the exported bodies, after the argument checks:
+// the work buffer, the transform, the layout step. The only failure is
+// ErrMemAlloc (null wsp and the record needs work space); dst is then
+// untouched.
+template <class S> Status real_forward(const FloatSpec<S>* spec, RealLayout lay, const S* src, S* dst, Tav8u* wsp);
+template <class S> Status real_inverse(const FloatSpec<S>* spec, RealLayout lay, const S* src, S* dst, Tav8u* wsp);
+
+} // namespace tavs::fft
