@@ -146,6 +146,8 @@ TEST(FirInt, StateSizes)
         EXPECT_EQ(c, d);
         EXPECT_EQ(e, a16(2 * n) + 128);
         EXPECT_EQ(f, k16s.bytes(n));
+        EXPECT_EQ(b, k32s.bytes(n));
+        EXPECT_EQ(d, k32sc.bytes(n));
     }
     int sz = 0;
     EXPECT_EQ(tavsFIRGetStateSize_16s(0, &sz), ErrFilterLen);
