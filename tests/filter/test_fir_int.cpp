@@ -315,7 +315,8 @@ TEST(FirInt, TapRules)
     EXPECT_EQ(back[1], 50);
     EXPECT_EQ(back[2], -4);
     EXPECT_EQ(f, 3);
-    ASSERT_EQ(tavsFIRSetTaps_16s(one, s, -3), StatusOk);
+    const Tav16s ones[3] = {1, 0, 0};
+    ASSERT_EQ(tavsFIRSetTaps_16s(ones, s, -3), StatusOk);
     ASSERT_EQ(tavsFIRGetTaps_16s(s, back, &f), StatusOk);
     EXPECT_EQ(back[0], 1);
     EXPECT_EQ(f, -3);
@@ -377,7 +378,7 @@ TEST(FirInt, TapRules)
     EXPECT_EQ(cb[0].re, 17500);
     EXPECT_EQ(cb[1].re, -1);
     EXPECT_EQ(cb[1].im, 2);
-    const Tav32sc ct2[1] = {{1, 2}};
+    const Tav32sc ct2[2] = {{1, 2}, {0, 0}};
     ASSERT_EQ(tavsFIRSetTaps32sc_16sc(ct2, c, 9), StatusOk);
     ASSERT_EQ(tavsFIRGetTaps32sc_16sc(c, cb, &f), StatusOk);
     EXPECT_EQ(f, 9);
@@ -389,9 +390,13 @@ TEST(FirInt, TapRules)
     EXPECT_EQ(cfb[0].re, 0.5f);
     EXPECT_EQ(cfb[0].im, -0.5f);
     EXPECT_EQ(cfb[1].re, 0.25f);
-    ASSERT_EQ(tavsFIRSetTaps32sc_16sc32fc(cf + 1, c), StatusOk);
+    // Largest part 0.25: doubled until 2m reaches 32767, so 2^16 and -16.
+    const Tav32fc cq[2] = {{0.25f, 0.0f}, {0.0f, -0.125f}};
+    ASSERT_EQ(tavsFIRSetTaps32sc_16sc32fc(cq, c), StatusOk);
     ASSERT_EQ(tavsFIRGetTaps32sc_16sc(c, cb, &f), StatusOk);
-    EXPECT_EQ(f, -15);
+    EXPECT_EQ(f, -16);
+    EXPECT_EQ(cb[0].re, 16384);
+    EXPECT_EQ(cb[1].im, -8192);
 }
 
 TEST(FirInt, FloatTapsFilterBitExact)
