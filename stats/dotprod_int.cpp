@@ -6,6 +6,8 @@
 
 #include <emmintrin.h>
 
+#include <type_traits>
+
 #include "internal/check.h"
 #include "internal/stats_lanes.h"
 #include "internal/stats_scale.h"
@@ -62,6 +64,23 @@ const int16_t* parts(const Tav16sc* p) { return reinterpret_cast<const int16_t*>
 
 int32_t to32(int64_t s, int sf) { return int32_t(scale_dot(s, sf, 31, INT32_MIN, INT32_MAX)); }
 int16_t to16(int64_t s, int sf) { return int16_t(scale_dot(s, sf, 15, INT16_MIN, INT16_MAX)); }
+
+// A dot product with a 16sc second vector: the exact 64-bit sums of the
+// parts (the first vector complex too, or real), each part stored through
+// out: as it is, as a float, or scaled and saturated.
+template <class S1, class D, class Out>
+Status dot_16sc_to(const S1* src1, const Tav16sc* src2, int len, D* dp, Out out)
+{
+    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
+    int64_t re, im;
+    if constexpr (std::is_same_v<S1, Tav16sc>)
+        dot_16sc(parts(src1), src2, len, false, &re, &im);
+    else
+        dot_16sc(src1, src2, len, true, &re, &im);
+    dp->re = out(re);
+    dp->im = out(im);
+    return StatusOk;
+}
 
 // 2^-sf with sf capped to -31..93, built directly on the exponent field.
 double exp_scale(int sf)
@@ -146,21 +165,11 @@ extern "C" Status tavsDotProd_16s64s_body(const Tav16s* src1, const Tav16s* src2
 }
 extern "C" Status tavsDotProd_16sc64sc_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav64sc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = re;
-    dp->im = im;
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return v; });
 }
 extern "C" Status tavsDotProd_16s16sc64sc_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav64sc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = re;
-    dp->im = im;
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return v; });
 }
 extern "C" Status tavsDotProd_16s32f_body(const Tav16s* src1, const Tav16s* src2, int len, Tav32f* dp)
 {
@@ -170,21 +179,11 @@ extern "C" Status tavsDotProd_16s32f_body(const Tav16s* src1, const Tav16s* src2
 }
 extern "C" Status tavsDotProd_16sc32fc_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav32fc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = float(re);
-    dp->im = float(im);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return float(v); });
 }
 extern "C" Status tavsDotProd_16s16sc32fc_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav32fc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = float(re);
-    dp->im = float(im);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return float(v); });
 }
 
 // ---- 16-bit, scaled ------------------------------------------------------------------------
@@ -204,42 +203,22 @@ extern "C" Status tavsDotProd_16s_Sfs_body(const Tav16s* src1, const Tav16s* src
 extern "C" Status tavsDotProd_16sc32sc_Sfs_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav32sc* dp,
                                                 int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = to32(re, scaleFactor);
-    dp->im = to32(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to32(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16sc_Sfs_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav16sc* dp,
                                             int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = to16(re, scaleFactor);
-    dp->im = to16(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to16(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16s16sc32sc_Sfs_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav32sc* dp,
                                                    int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = to32(re, scaleFactor);
-    dp->im = to32(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to32(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16s16sc_Sfs_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav16sc* dp,
                                                int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = to16(re, scaleFactor);
-    dp->im = to16(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to16(v, scaleFactor); });
 }
 // 16-bit times 32-bit: the products need 47 bits, so the 64-bit sum wraps
 // for very long extreme vectors; the wrap is done on unsigned arithmetic.
