@@ -65,7 +65,7 @@ inline __m128i vcvt_rha_clamped(__m128 x)
 template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src, D* dst, size_t n, float f)
 {
     // Sixteen elements a step: one 16-byte store of 8-bit results, two of
-    // 16-bit ones.
+    // 16-bit ones, which finish with one eight-element step where it fits.
     constexpr size_t W = 16, perStore = 16 / sizeof(D);
     const float lo = float(Limits<D>::min), hi = float(Limits<D>::max);
     const __m128 vlo = _mm_set1_ps(lo), vf = _mm_set1_ps(f);
@@ -76,7 +76,25 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
     // 0x80000000, so it limits the low side. Half away doubles the value and
     // halves the result, which keeps the indefinite negative.
     constexpr bool hiOnly = Mode != RoundHalfAway && !std::is_same_v<D, Tav16u>;
-    drive<W>(
+    // Converts and stores Elems elements from i (a whole number of stores).
+    auto block = [&](size_t i, auto elems) {
+        constexpr size_t E = decltype(elems)::value;
+        __m128i q[E / 4];
+        for (size_t k = 0; k < E / 4; ++k) {
+            __m128 x = _mm_loadu_ps(src + i + 4 * k);
+            if constexpr (Scale) x = _mm_mul_ps(x, vf);
+            x = clamp_high(x);
+            if constexpr (Mode == RoundHalfAway) {
+                q[k] = vcvt_rha_clamped(x);
+            } else {
+                if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
+                q[k] = vcvt_mode(x, Mode);
+            }
+        }
+        for (size_t k = 0; k < E / perStore; ++k)
+            store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
+    };
+    drive<W, perStore>(
         dst, n, 8,
         [&](size_t i) {
             float x = ld<Tav32f>(src, i);
@@ -86,22 +104,8 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
             else
                 st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), Mode)));
         },
-        [&](size_t i) {
-            __m128i q[W / 4];
-            for (size_t k = 0; k < W / 4; ++k) {
-                __m128 x = _mm_loadu_ps(src + i + 4 * k);
-                if constexpr (Scale) x = _mm_mul_ps(x, vf);
-                x = clamp_high(x);
-                if constexpr (Mode == RoundHalfAway) {
-                    q[k] = vcvt_rha_clamped(x);
-                } else {
-                    if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
-                    q[k] = vcvt_mode(x, Mode);
-                }
-            }
-            for (size_t k = 0; k < W / perStore; ++k)
-                store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
-        });
+        [&](size_t i) { block(i, std::integral_constant<size_t, W>{}); },
+        [&](size_t i) { block(i, std::integral_constant<size_t, perStore>{}); });
 }
 
 template <class D, bool Scale> void f32_small_modes(const Tav32f* src, D* dst, size_t n, float f, int rndMode)
