@@ -172,8 +172,9 @@ template <bool Nearest, size_t K>
 __attribute__((noinline)) void v_store_halves_full(Tav16f* d, const __m128i (&x)[2 * K])
 {
     for (size_t k = 0; k < K; ++k)
-        _mm_store_si128(reinterpret_cast<__m128i*>(d + 8 * k),
-                        pack_low16(v_float_to_half<Nearest>(x[2 * k]), v_float_to_half<Nearest>(x[2 * k + 1])));
+        _mm_store_si128(
+            reinterpret_cast<__m128i*>(d + 8 * k),
+            pack_low16(v_float_to_half<Nearest>(x[2 * k]), v_float_to_half<Nearest>(x[2 * k + 1])));
 }
 
 // 8K 32f bit patterns to halves stored at an aligned d; the full rule runs
@@ -185,8 +186,9 @@ template <bool Nearest, size_t K> inline void v_store_halves(Tav16f* d, const __
         in = _mm_and_si128(in, v_inside_plain<Nearest>(x[k]));
     if (_mm_movemask_epi8(in) != 0xFFFF) return v_store_halves_full<Nearest, K>(d, x);
     for (size_t k = 0; k < K; ++k)
-        _mm_store_si128(reinterpret_cast<__m128i*>(d + 8 * k),
-                        _mm_packs_epi32(v_plain_half<Nearest>(x[2 * k]), v_plain_half<Nearest>(x[2 * k + 1])));
+        _mm_store_si128(
+            reinterpret_cast<__m128i*>(d + 8 * k),
+            _mm_packs_epi32(v_plain_half<Nearest>(x[2 * k]), v_plain_half<Nearest>(x[2 * k + 1])));
 }
 
 // Sixteen elements a step, then one step of eight where it fits.
@@ -220,7 +222,8 @@ template <bool Nearest> void s16_to_16f(const Tav16s* src, Tav16f* dst, size_t n
         [&](size_t i) {
             __m128i lo, hi;
             widen_16s(_mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i)), lo, hi);
-            const __m128i x[2] = {_mm_castps_si128(_mm_cvtepi32_ps(lo)), _mm_castps_si128(_mm_cvtepi32_ps(hi))};
+            const __m128i x[2] = {_mm_castps_si128(_mm_cvtepi32_ps(lo)),
+                                  _mm_castps_si128(_mm_cvtepi32_ps(hi))};
             v_store_halves<Nearest, 1>(dst + i, x);
         });
 }

@@ -76,7 +76,7 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
     // 0x80000000, so it limits the low side. Half away doubles the value and
     // halves the result, which keeps the indefinite negative.
     constexpr bool hiOnly = Mode != RoundHalfAway && !std::is_same_v<D, Tav16u>;
-    // Converts and stores Elems elements from i (a whole number of stores).
+    // Converts and stores E elements from i (a whole number of stores).
     auto block = [&](size_t i, auto elems) {
         constexpr size_t E = decltype(elems)::value;
         __m128i q[E / 4];

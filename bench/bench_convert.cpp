@@ -45,7 +45,8 @@ template <class S, class D, class F> void convert(benchmark::State& state, void 
 
 void bm_16s32f_tavs(benchmark::State& state)
 {
-    convert<Tav16s, Tav32f>(state, fill, [](const Tav16s* s, Tav32f* d, int n) { tavsConvert_16s32f(s, d, n); });
+    convert<Tav16s, Tav32f>(state, fill,
+                            [](const Tav16s* s, Tav32f* d, int n) { tavsConvert_16s32f(s, d, n); });
 }
 void bm_16s32f_loop(benchmark::State& state)
 {

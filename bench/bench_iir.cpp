@@ -67,7 +67,8 @@ template <class T> std::vector<T> cast(const std::vector<double>& v)
 // Sizes the state with getSize(&bytes), builds it in a caller block with
 // init(&state, taps, mem) and times filter(x, y, n, state) on the signal.
 template <class T, class State, class GetSize, class Init, class Filter>
-void iir_tavs(benchmark::State& state, const std::vector<double>& taps, GetSize getSize, Init init, Filter filter)
+void iir_tavs(benchmark::State& state, const std::vector<double>& taps, GetSize getSize, Init init,
+              Filter filter)
 {
     const int n = int(state.range(0));
     auto t = cast<T>(taps);
@@ -85,7 +86,9 @@ void bm_biquad_32f_tavs(benchmark::State& state)
 {
     iir_tavs<float, IIRState_32f>(
         state, sections(), [](int* size) { tavsIIRGetStateSize_BiQuad_32f(kSections, size); },
-        [](IIRState_32f** st, const float* t, Tav8u* mem) { tavsIIRInit_BiQuad_32f(st, t, kSections, nullptr, mem); },
+        [](IIRState_32f** st, const float* t, Tav8u* mem) {
+            tavsIIRInit_BiQuad_32f(st, t, kSections, nullptr, mem);
+        },
         tavsIIR_32f);
 }
 
@@ -93,14 +96,17 @@ void bm_order8_32f_tavs(benchmark::State& state)
 {
     iir_tavs<float, IIRState_32f>(
         state, order8(), [](int* size) { tavsIIRGetStateSize_32f(8, size); },
-        [](IIRState_32f** st, const float* t, Tav8u* mem) { tavsIIRInit_32f(st, t, 8, nullptr, mem); }, tavsIIR_32f);
+        [](IIRState_32f** st, const float* t, Tav8u* mem) { tavsIIRInit_32f(st, t, 8, nullptr, mem); },
+        tavsIIR_32f);
 }
 
 void bm_biquad_64f_tavs(benchmark::State& state)
 {
     iir_tavs<double, IIRState_64f>(
         state, sections(), [](int* size) { tavsIIRGetStateSize_BiQuad_64f(kSections, size); },
-        [](IIRState_64f** st, const double* t, Tav8u* mem) { tavsIIRInit_BiQuad_64f(st, t, kSections, nullptr, mem); },
+        [](IIRState_64f** st, const double* t, Tav8u* mem) {
+            tavsIIRInit_BiQuad_64f(st, t, kSections, nullptr, mem);
+        },
         tavsIIR_64f);
 }
 
@@ -108,7 +114,8 @@ void bm_order8_64f_tavs(benchmark::State& state)
 {
     iir_tavs<double, IIRState_64f>(
         state, order8(), [](int* size) { tavsIIRGetStateSize_64f(8, size); },
-        [](IIRState_64f** st, const double* t, Tav8u* mem) { tavsIIRInit_64f(st, t, 8, nullptr, mem); }, tavsIIR_64f);
+        [](IIRState_64f** st, const double* t, Tav8u* mem) { tavsIIRInit_64f(st, t, 8, nullptr, mem); },
+        tavsIIR_64f);
 }
 
 // ---- plain loops ----------------------------------------------------------------------

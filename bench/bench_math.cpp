@@ -98,8 +98,9 @@ long double ref_phase(size_t i)
 // ---- tavs and plain loops ----------------------------------------------------------------
 void bm_exp32f_tavs(benchmark::State& s)
 {
-    run<float>(s, &Inputs::expIn, [](auto& in, auto& out) { tavsExp_32f(in.data(), out.data(), int(in.size())); },
-               ref_exp32);
+    run<float>(
+        s, &Inputs::expIn, [](auto& in, auto& out) { tavsExp_32f(in.data(), out.data(), int(in.size())); },
+        ref_exp32);
 }
 void bm_exp32f_loop(benchmark::State& s)
 {
@@ -107,8 +108,9 @@ void bm_exp32f_loop(benchmark::State& s)
 }
 void bm_ln32f_tavs(benchmark::State& s)
 {
-    run<float>(s, &Inputs::lnIn, [](auto& in, auto& out) { tavsLn_32f(in.data(), out.data(), int(in.size())); },
-               ref_ln32);
+    run<float>(
+        s, &Inputs::lnIn, [](auto& in, auto& out) { tavsLn_32f(in.data(), out.data(), int(in.size())); },
+        ref_ln32);
 }
 void bm_ln32f_loop(benchmark::State& s)
 {
@@ -116,8 +118,9 @@ void bm_ln32f_loop(benchmark::State& s)
 }
 void bm_exp64f_tavs(benchmark::State& s)
 {
-    run<double>(s, &Inputs::exp64In,
-                [](auto& in, auto& out) { tavsExp_64f(in.data(), out.data(), int(in.size())); }, ref_exp64);
+    run<double>(
+        s, &Inputs::exp64In, [](auto& in, auto& out) { tavsExp_64f(in.data(), out.data(), int(in.size())); },
+        ref_exp64);
 }
 void bm_exp64f_loop(benchmark::State& s)
 {
@@ -125,8 +128,9 @@ void bm_exp64f_loop(benchmark::State& s)
 }
 void bm_mag_tavs(benchmark::State& s)
 {
-    run<float>(s, &Inputs::cplx,
-               [](auto& in, auto& out) { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
+    run<float>(
+        s, &Inputs::cplx,
+        [](auto& in, auto& out) { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
 }
 void bm_mag_loop(benchmark::State& s)
 {
@@ -134,8 +138,9 @@ void bm_mag_loop(benchmark::State& s)
 }
 void bm_phase_tavs(benchmark::State& s)
 {
-    run<float>(s, &Inputs::cplx,
-               [](auto& in, auto& out) { tavsPhase_32fc(in.data(), out.data(), int(in.size())); }, ref_phase);
+    run<float>(
+        s, &Inputs::cplx, [](auto& in, auto& out) { tavsPhase_32fc(in.data(), out.data(), int(in.size())); },
+        ref_phase);
 }
 void bm_phase_loop(benchmark::State& s)
 {
@@ -215,8 +220,9 @@ BENCHMARK(bm_phase_sleef)->Name("Phase_32fc/sleef")->Arg(4096);
 // kernel followed by its scaling kernel.
 void bm_exp32f_volk(benchmark::State& s)
 {
-    run<float>(s, &Inputs::expIn,
-               [](auto& in, auto& out) { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
+    run<float>(
+        s, &Inputs::expIn,
+        [](auto& in, auto& out) { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
 }
 void bm_ln32f_volk(benchmark::State& s)
 {
@@ -233,7 +239,8 @@ void bm_mag_volk(benchmark::State& s)
     run<float>(
         s, &Inputs::cplx,
         [](auto& in, auto& out) {
-            volk_32fc_magnitude_32f(out.data(), reinterpret_cast<const lv_32fc_t*>(in.data()), unsigned(in.size()));
+            volk_32fc_magnitude_32f(out.data(), reinterpret_cast<const lv_32fc_t*>(in.data()),
+                                    unsigned(in.size()));
         },
         ref_mag);
 }

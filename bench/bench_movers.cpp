@@ -31,7 +31,8 @@ void bm_copy_32f_memcpy(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp(size_t(n));
     std::vector<float> dst(static_cast<size_t>(n));
-    bench::timed(state, dst.data(), n, [&] { std::memcpy(dst.data(), src.data(), size_t(n) * sizeof(float)); });
+    bench::timed(state, dst.data(), n,
+                 [&] { std::memcpy(dst.data(), src.data(), size_t(n) * sizeof(float)); });
 }
 
 void bm_set_32f_tavs(benchmark::State& state)

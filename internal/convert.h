@@ -70,10 +70,10 @@ inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec, V2
         size_t head = ((16 - addr % 16) % 16) / sizeof(D);
         for (; i < head && i < n; ++i)
             scalar(i);
-        for (; i + W <= n; i += W)
+        for (; n - i >= W; i += W)
             vec(i);
         if constexpr (W2 < W)
-            for (; i + W2 <= n; i += W2)
+            for (; n - i >= W2; i += W2)
                 narrow(i);
     }
     for (; i < n; ++i)
@@ -81,7 +81,8 @@ inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec, V2
 }
 
 // The same with one vector width.
-template <size_t W, class D, class S, class V> inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec)
+template <size_t W, class D, class S, class V>
+inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec)
 {
     drive<W, W>(dst, n, minVec, scalar, vec, [](size_t) {});
 }

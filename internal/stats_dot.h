@@ -12,7 +12,10 @@
 namespace tavs::stats {
 
 // Two 32-bit integers at p widened to a double pair, from any address.
-inline __m128d widen2(const int32_t* p) { return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))); }
+inline __m128d widen2(const int32_t* p)
+{
+    return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+}
 
 // Real and imaginary terms of element i of a (real or complex) times b
 // (complex), widened: (ar br - ai bi) and (ar bi + ai br), or (a br), (a bi).
@@ -58,7 +61,8 @@ template <class E> void dot_wide_cplx(const WideCplx<E>& w, int64_t n, double* r
     int64_t i = 0;
     for (; i + 8 <= n; i += 8) {
         __m128d r[4], m[4];
-        for (int k = 0; k < 4; ++k) w.pair(i + 2 * k, &r[k], &m[k]);
+        for (int k = 0; k < 4; ++k)
+            w.pair(i + 2 * k, &r[k], &m[k]);
         lr.add(r[0], r[1], r[2], r[3]);
         li.add(m[0], m[1], m[2], m[3]);
     }
