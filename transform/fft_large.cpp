@@ -159,55 +159,47 @@ template <bool Inv, class S> void merge_pass(Split<S> v, int64_t L, int64_t s, c
 
 // Four columns c .. c+3 of R rows of length M, each value times its column
 // twiddle, into R rows of four values in the work buffer; the column
-// transforms then run side by side on those rows.
-template <bool Inv> void gather(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* ct, float* w)
+// transforms then run side by side on those rows. One row at a time here;
+// the driver walks the rows.
+template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
 {
-    for (int64_t r = 0; r < R; ++r) {
-        const float* row = v.p + 2 * (r * M + c);
-        _mm_store_ps(w + 8 * r, cmul<Inv>(_mm_loadu_ps(row), _mm_load_ps(ct + 8 * r)));
-        _mm_store_ps(w + 8 * r + 4, cmul<Inv>(_mm_loadu_ps(row + 4), _mm_load_ps(ct + 8 * r + 4)));
-    }
+    const float* row = v.p + 2 * (r * M + c);
+    _mm_store_ps(w + 8 * r, cmul<Inv>(_mm_loadu_ps(row), _mm_load_ps(ct + 8 * r)));
+    _mm_store_ps(w + 8 * r + 4, cmul<Inv>(_mm_loadu_ps(row + 4), _mm_load_ps(ct + 8 * r + 4)));
 }
-void scatter(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* w)
+inline void scatter_row(Inter<float> v, int64_t q, int64_t M, int64_t c, const float* w)
 {
-    for (int64_t q = 0; q < R; ++q) {
-        float* row = v.p + 2 * (q * M + c);
-        _mm_storeu_ps(row, _mm_load_ps(w + 8 * q));
-        _mm_storeu_ps(row + 4, _mm_load_ps(w + 8 * q + 4));
-    }
+    float* row = v.p + 2 * (q * M + c);
+    _mm_storeu_ps(row, _mm_load_ps(w + 8 * q));
+    _mm_storeu_ps(row + 4, _mm_load_ps(w + 8 * q + 4));
 }
-template <bool Inv> void gather(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* ct, double* w)
+template <bool Inv>
+inline void gather_row(Inter<double> v, int64_t r, int64_t M, int64_t c, const double* ct, double* w)
 {
-    for (int64_t r = 0; r < R; ++r) {
-        const double* row = v.p + 2 * (r * M + c);
-        for (int j = 0; j < 4; ++j)
-            _mm_store_pd(w + 8 * r + 2 * j, cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
-    }
+    const double* row = v.p + 2 * (r * M + c);
+    for (int j = 0; j < 4; ++j)
+        _mm_store_pd(w + 8 * r + 2 * j, cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
 }
-void scatter(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* w)
+inline void scatter_row(Inter<double> v, int64_t q, int64_t M, int64_t c, const double* w)
 {
-    for (int64_t q = 0; q < R; ++q) {
-        double* row = v.p + 2 * (q * M + c);
-        for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 8 * q + 2 * j));
-    }
+    double* row = v.p + 2 * (q * M + c);
+    for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 8 * q + 2 * j));
 }
 // Split data: the gather interleaves re and im into the same rows.
-template <bool Inv, class S> void gather(Split<S> v, int64_t R, int64_t M, int64_t c, const S* ct, S* w)
+template <bool Inv, class S> inline void gather_row(Split<S> v, int64_t r, int64_t M, int64_t c, const S* ct, S* w)
 {
-    for (int64_t r = 0; r < R; ++r)
-        for (int j = 0; j < 4; ++j) {
-            const int64_t i = r * M + c + j;
-            cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], w[8 * r + 2 * j], w[8 * r + 2 * j + 1]);
-        }
+    for (int j = 0; j < 4; ++j) {
+        const int64_t i = r * M + c + j;
+        cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], w[8 * r + 2 * j], w[8 * r + 2 * j + 1]);
+    }
 }
-template <class S> void scatter(Split<S> v, int64_t R, int64_t M, int64_t c, const S* w)
+template <class S> inline void scatter_row(Split<S> v, int64_t q, int64_t M, int64_t c, const S* w)
 {
-    for (int64_t q = 0; q < R; ++q)
-        for (int j = 0; j < 4; ++j) {
-            const int64_t i = q * M + c + j;
-            v.re[i] = w[8 * q + 2 * j];
-            v.im[i] = w[8 * q + 2 * j + 1];
-        }
+    for (int j = 0; j < 4; ++j) {
+        const int64_t i = q * M + c + j;
+        v.re[i] = w[8 * q + 2 * j];
+        v.im[i] = w[8 * q + 2 * j + 1];
+    }
 }
 
 // ---- the large path -------------------------------------------------------------
@@ -251,10 +243,21 @@ template <class S, bool Inv, class V> struct Large {
         for (int64_t r = 0; r < R; ++r) row(v.at(r * M), m - F, level + 1);
         const S* cols = spec->levelColumns[level];
         const S* r4 = spec->levelRadixFour[level];
+        // The scatter of columns c .. c+3 and the gather of c+4 .. c+7 share
+        // one walk over the rows: both touch the same cache line of a row,
+        // which is then fetched once instead of twice.
+        for (int64_t r = 0; r < R; ++r) gather_row<Inv>(v, r, M, 0, cols, work);
         for (int64_t c = 0; c < M; c += 4) {
-            gather<Inv>(v, R, M, c, cols + (c / 4) * R * 8, work);
             radix4_rows4<S, Inv>(work, R, r4);
-            scatter(v, R, M, c, work);
+            if (c + 4 < M) {
+                const S* next = cols + ((c + 4) / 4) * R * 8;
+                for (int64_t r = 0; r < R; ++r) {
+                    scatter_row(v, r, M, c, work);
+                    gather_row<Inv>(v, r, M, c + 4, next, work);
+                }
+            } else {
+                for (int64_t r = 0; r < R; ++r) scatter_row(v, r, M, c, work);
+            }
         }
     }
 };
