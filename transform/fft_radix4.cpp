@@ -17,21 +17,6 @@ template <> void radix4_interleaved<float, true>(float*, int64_t, const float*);
 
 namespace {
 
-// Stage one on a group of four values held in two registers: (x0, x2, x1,
-// x3) of a 4-point problem in, its transform in natural order out.
-template <bool Inv> inline void group4(__m128& v0, __m128& v1)
-{
-    const __m128 u = _mm_movelh_ps(v0, v1); // [A, C]
-    const __m128 w = _mm_movehl_ps(v1, v0); // [B, D]
-    const __m128 s = _mm_add_ps(u, w);      // [A+B, C+D]
-    const __m128 df = _mm_sub_ps(u, w);     // [A-B, C-D]
-    const __m128 r = rot<Inv>(df);          // high lane: -/+ i (C-D)
-    const __m128 lo = _mm_movelh_ps(s, df); // [A+B, A-B]
-    const __m128 hi = _mm_movehl_ps(r, s);  // [C+D, rot(C-D)]
-    v0 = _mm_add_ps(lo, hi);
-    v1 = _mm_sub_ps(lo, hi);
-}
-
 // Block order of the first pass: blocks in place, or (fused with the bit
 // reversal) the block that a running source index feeds.
 struct Natural {
@@ -40,75 +25,96 @@ struct Natural {
 
 // The first pass of the kernel runs over blocks of B values (B = 16 for an
 // even order: stage one and the span-16 stage; B = 8 for an odd order: stage
-// one and the radix-2 stage of span 8). load(i, j) gives values 2j, 2j+1 (in
-// 64f value j) of block i, so the same pass runs on data in place or straight
-// from the source through the bit reversal. L is the kernel's length, tw its
+// one and the radix-2 stage of span 8). The loader gives the values of a
+// block, so the same pass runs on data in place or straight from the source
+// through the bit reversal. L is the kernel's length (at least 32), tw its
 // table.
 inline int first_block(int64_t L) { return (L & 0xAAAAAAAAAAAAAAAAll) ? 8 : (L >= 16 ? 16 : 4); }
 
 // Between the first pass and the last stage the 32f kernel keeps its data
 // in blocks of four values, [re0 re1 re2 re3 im0 im1 im2 im3], at the same
 // addresses as the interleaved values: the stages after the first then need
-// no shuffles. The first pass writes that form when stages follow it (soa),
-// the last stage writes the interleaved form back.
-inline void store_block(float* p, __m128 lo, __m128 hi, bool soa)
+// no shuffles. The first pass writes that form, the last stage writes the
+// interleaved form back.
+
+// Four registers of four floats transposed: row k of the input becomes
+// column k of the output.
+inline void transpose4(__m128& r0, __m128& r1, __m128& r2, __m128& r3)
 {
-    if (soa) {
-        _mm_storeu_ps(p, _mm_shuffle_ps(lo, hi, _MM_SHUFFLE(2, 0, 2, 0)));
-        _mm_storeu_ps(p + 4, _mm_shuffle_ps(lo, hi, _MM_SHUFFLE(3, 1, 3, 1)));
-    } else {
-        _mm_storeu_ps(p, lo);
-        _mm_storeu_ps(p + 4, hi);
-    }
+    const __m128 t0 = _mm_unpacklo_ps(r0, r1), t1 = _mm_unpacklo_ps(r2, r3);
+    const __m128 t2 = _mm_unpackhi_ps(r0, r1), t3 = _mm_unpackhi_ps(r2, r3);
+    r0 = _mm_movelh_ps(t0, t1);
+    r1 = _mm_movehl_ps(t1, t0);
+    r2 = _mm_movelh_ps(t2, t3);
+    r3 = _mm_movehl_ps(t3, t2);
 }
 
-template <bool Inv, class Load, class Order = Natural>
-void first_pass_32(float* d, int64_t N, int64_t L, const float* tw, Load load, Order order = Order())
+// Quarter m of a block (values 4m .. 4m+3 in the four registers x[0..3],
+// each [re im] of block a then of block b) stored in the [re x4, im x4]
+// form of both blocks.
+inline void store_quarters(float* pa, float* pb, __m128 x0, __m128 x1, __m128 x2, __m128 x3)
 {
-    const int B = first_block(L);
-    const bool soa = L > B;
+    transpose4(x0, x1, x2, x3);
+    _mm_storeu_ps(pa, x0);
+    _mm_storeu_ps(pa + 4, x1);
+    _mm_storeu_ps(pb, x2);
+    _mm_storeu_ps(pb + 4, x3);
+}
+
+// The first pass on two blocks at once when stages follow it: register t
+// holds value t of block i and of block i+1, so the butterflies need no
+// shuffles (the two blocks run side by side) and a fused bit reversal reads
+// two neighbouring source values with one load. load(i, t) (i even) gives
+// those two values; order(i) is the destination block of i. Every butterfly
+// does the same operations as the one-block pass.
+template <bool Inv, class Load, class Order>
+void first_pass_pairs_32(float* d, int64_t N, int64_t L, const float* tw, Load load, Order order)
+{
+    const int B = first_block(L); // 8 or 16 from L = 32 on
+    auto dup = [](__m128 w) { return _mm_movelh_ps(w, w); };
     if (B == 8) {
         const float c = 0.70710677f;
-        const Tw32 w01 = prep<Inv>(_mm_setr_ps(1.0f, 0.0f, c, -c));
-        const Tw32 w23 = prep<Inv>(_mm_setr_ps(0.0f, -1.0f, -c, -c));
-        for (int64_t i = 0; i < N / 8; ++i) {
-            float* p = d + 16 * order(i);
-            __m128 e0 = load(i, 0), e1 = load(i, 1), o0 = load(i, 2), o1 = load(i, 3);
-            group4<Inv>(e0, e1);
-            group4<Inv>(o0, o1);
-            o0 = mul(o0, w01);
-            o1 = mul(o1, w23);
-            store_block(p, _mm_add_ps(e0, o0), _mm_add_ps(e1, o1), soa);
-            store_block(p + 8, _mm_sub_ps(e0, o0), _mm_sub_ps(e1, o1), soa);
-        }
-    } else if (B == 16) {
-        const __m128 one = _mm_setr_ps(1.0f, 0.0f, 0.0f, 0.0f);
-        const int64_t stride = 6 * (L / 16);
-        auto pair = [&](int64_t k, int j) {
-            const float* t1 = tw + (k + 1) * stride + 2 * (j - 1);
-            if (k == 0) return prep<Inv>(_mm_loadh_pi(one, reinterpret_cast<const __m64*>(t1)));
-            return prep<Inv>(load2(t1 - stride, t1));
-        };
-        const Tw32 a1 = pair(0, 1), a2 = pair(0, 2), a3 = pair(0, 3);
-        const Tw32 b1 = pair(2, 1), b2 = pair(2, 2), b3 = pair(2, 3);
-        for (int64_t i = 0; i < N / 16; ++i) {
-            float* p = d + 32 * order(i);
-            __m128 v[8];
-            for (int j = 0; j < 8; ++j) v[j] = load(i, j);
-            for (int g = 0; g < 4; ++g) group4<Inv>(v[2 * g], v[2 * g + 1]);
-            __m128 x0, x1, x2, x3, y0, y1, y2, y3;
-            bfly4<Inv>(v[0], mul(v[2], a2), mul(v[4], a1), mul(v[6], a3), x0, x1, x2, x3);
-            bfly4<Inv>(v[1], mul(v[3], b2), mul(v[5], b1), mul(v[7], b3), y0, y1, y2, y3);
-            store_block(p, x0, y0, soa);
-            store_block(p + 8, x1, y1, soa);
-            store_block(p + 16, x2, y2, soa);
-            store_block(p + 24, x3, y3, soa);
+        const Tw32 w1 = prep<Inv>(_mm_setr_ps(c, -c, c, -c));
+        const Tw32 w3 = prep<Inv>(_mm_setr_ps(-c, -c, -c, -c));
+        for (int64_t i = 0; i < N / 8; i += 2) {
+            __m128 in[8];
+            for (int t = 0; t < 8; ++t) in[t] = load(i, t); // in order: the loader may stage data
+            float* pa = d + 16 * order(i);
+            float* pb = d + 16 * order(i + 1);
+            __m128 e0, e1, e2, e3, o0, o1, o2, o3;
+            bfly4<Inv>(in[0], in[1], in[2], in[3], e0, e1, e2, e3);
+            bfly4<Inv>(in[4], in[5], in[6], in[7], o0, o1, o2, o3);
+            o1 = mul(o1, w1);
+            o2 = rot<Inv>(o2);
+            o3 = mul(o3, w3);
+            store_quarters(pa, pb, _mm_add_ps(e0, o0), _mm_add_ps(e1, o1), _mm_add_ps(e2, o2), _mm_add_ps(e3, o3));
+            store_quarters(pa + 8, pb + 8, _mm_sub_ps(e0, o0), _mm_sub_ps(e1, o1), _mm_sub_ps(e2, o2),
+                           _mm_sub_ps(e3, o3));
         }
     } else {
-        for (int64_t i = 0; i < N / 4; ++i) {
-            __m128 v0 = load(i, 0), v1 = load(i, 1);
-            group4<Inv>(v0, v1);
-            store_block(d + 8 * order(i), v0, v1, false);
+        // Span-16 stage: value k + 4m of a block; the twiddles of k = 1..3.
+        const int64_t stride = 6 * (L / 16);
+        auto twid = [&](int64_t k, int j) {
+            return prep<Inv>(dup(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(tw + k * stride + 2 * (j - 1))))));
+        };
+        const Tw32 w11 = twid(1, 1), w12 = twid(1, 2), w13 = twid(1, 3);
+        const Tw32 w21 = twid(2, 1), w22 = twid(2, 2), w23 = twid(2, 3);
+        const Tw32 w31 = twid(3, 1), w32 = twid(3, 2), w33 = twid(3, 3);
+        for (int64_t i = 0; i < N / 16; i += 2) {
+            __m128 v[16];
+            for (int t = 0; t < 16; ++t) v[t] = load(i, t);
+            float* pa = d + 32 * order(i);
+            float* pb = d + 32 * order(i + 1);
+            for (int g = 0; g < 4; ++g)
+                bfly4<Inv>(v[4 * g], v[4 * g + 1], v[4 * g + 2], v[4 * g + 3], v[4 * g], v[4 * g + 1], v[4 * g + 2],
+                           v[4 * g + 3]);
+            // Quarter 1 times W^2k, quarter 2 times W^k, quarter 3 times W^3k.
+            __m128 x[4][4];
+            bfly4<Inv>(v[0], v[4], v[8], v[12], x[0][0], x[1][0], x[2][0], x[3][0]);
+            bfly4<Inv>(v[1], mul(v[5], w12), mul(v[9], w11), mul(v[13], w13), x[0][1], x[1][1], x[2][1], x[3][1]);
+            bfly4<Inv>(v[2], mul(v[6], w22), mul(v[10], w21), mul(v[14], w23), x[0][2], x[1][2], x[2][2], x[3][2]);
+            bfly4<Inv>(v[3], mul(v[7], w32), mul(v[11], w31), mul(v[15], w33), x[0][3], x[1][3], x[2][3], x[3][3]);
+            for (int m = 0; m < 4; ++m) store_quarters(pa + 8 * m, pb + 8 * m, x[m][0], x[m][1], x[m][2], x[m][3]);
         }
     }
 }
@@ -208,7 +214,9 @@ template <bool Inv> void later_32(float* d, int64_t N, const float* tw)
 template <bool Inv> void radix4_32fc(float* d, int64_t N, const float* tw)
 {
     const int64_t B = first_block(N);
-    first_pass_32<Inv>(d, N, N, tw, [d, B](int64_t i, int j) { return _mm_loadu_ps(d + 2 * i * B + 4 * j); });
+    first_pass_pairs_32<Inv>(
+        d, N, N, tw, [d, B](int64_t i, int t) { return load2(d + 2 * (i * B + t), d + 2 * ((i + 1) * B + t)); },
+        Natural());
     later_32<Inv>(d, N, tw);
 }
 
@@ -499,23 +507,20 @@ template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, i
         constexpr int64_t J = 8;
         if (step * 8 >= 4096) {
             alignas(64) float buf[16][2 * J];
-            first_pass_32<Inverse>(dst, N, L, tw,
-                                   [&](int64_t j, int t) {
-                                       const int64_t jj = j & (J - 1);
-                                       if (t == 0 && jj == 0)
-                                           for (int u = 0; u < B; ++u)
-                                               for (int64_t h = 0; h < 2 * J; h += 4)
-                                                   _mm_store_ps(&buf[u][h], _mm_loadu_ps(src + 2 * (rb[u] * step + j) + h));
-                                       return load2(&buf[2 * t][2 * jj], &buf[2 * t + 1][2 * jj]);
-                                   },
-                                   order);
+            first_pass_pairs_32<Inverse>(dst, N, L, tw,
+                                         [&](int64_t j, int t) {
+                                             const int64_t jj = j & (J - 1);
+                                             if (t == 0 && jj == 0)
+                                                 for (int u = 0; u < B; ++u)
+                                                     for (int64_t h = 0; h < 2 * J; h += 4)
+                                                         _mm_store_ps(&buf[u][h],
+                                                                      _mm_loadu_ps(src + 2 * (rb[u] * step + j) + h));
+                                             return _mm_load_ps(&buf[t][2 * jj]);
+                                         },
+                                         order);
         } else {
-            first_pass_32<Inverse>(dst, N, L, tw,
-                                   [&](int64_t j, int t) {
-                                       return load2(src + 2 * (rb[2 * t] * step + j),
-                                                    src + 2 * (rb[2 * t + 1] * step + j));
-                                   },
-                                   order);
+            first_pass_pairs_32<Inverse>(
+                dst, N, L, tw, [&](int64_t j, int t) { return _mm_loadu_ps(src + 2 * (rb[t] * step + j)); }, order);
         }
     } else {
         first_pass_64<Inverse>(dst, N, L, tw, [&](int64_t j, int t) { return _mm_loadu_pd(src + 2 * (rb[t] * step + j)); },
