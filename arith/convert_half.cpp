@@ -10,6 +10,9 @@
 // but 2, which is refused): finite values from field 143 store 0x7BFF with
 // the sign, subnormals and normals drop the extra bits.
 #include "internal/body.h"
+
+#include <type_traits>
+
 #include "internal/check.h"
 #include "internal/convert.h"
 
@@ -140,48 +143,72 @@ template <bool Nearest> inline __m128i v_float_to_half(__m128i x)
 }
 
 // The common case alone: every lane a normal half that cannot round up to
-// the overflow threshold (field 113 and above, below 0x477FF000 for nearest).
+// the overflow threshold (field 113 and above, below 0x477FF000 for
+// nearest). t = x - (112 << 23), plus the rounding increment for nearest,
+// holds the half's magnitude in bits 13 to 27 and its sign in bit 31;
+// spreading the sign over bits 28 to 30 makes t >> 13 the half as a signed
+// 16-bit value, which the saturating pack then stores unchanged.
 template <bool Nearest> inline __m128i v_plain_half(__m128i x)
 {
-    const __m128i a = _mm_and_si128(x, c32(0x7FFFFFFFu));
-    const __m128i sign = _mm_and_si128(_mm_srli_epi32(x, 16), c32(0x8000u));
-    __m128i sum = _mm_add_epi32(a, c32(0x8000000u));
-    if constexpr (Nearest)
-        sum = _mm_add_epi32(_mm_add_epi32(sum, c32(0xFFFu)), _mm_and_si128(_mm_srli_epi32(a, 13), c32(1)));
-    return _mm_or_si128(_mm_and_si128(_mm_srli_epi32(sum, 13), c32(0x7FFFu)), sign);
+    __m128i t = _mm_add_epi32(x, c32(Nearest ? 0xC8000FFFu : 0xC8000000u));
+    if constexpr (Nearest) t = _mm_add_epi32(t, _mm_and_si128(_mm_srli_epi32(x, 13), c32(1)));
+    const __m128i neg = _mm_cmplt_epi32(x, _mm_setzero_si128());
+    return _mm_srai_epi32(_mm_or_si128(t, _mm_and_si128(neg, c32(0x70000000u))), 13);
 }
 
-template <bool Nearest> inline __m128i v_outside_plain(__m128i x)
+// Lanes inside the common case: |x| from 0x38800000 up to the top, as one
+// unsigned range test done signed with a bias of 2^31.
+template <bool Nearest> inline __m128i v_inside_plain(__m128i x)
 {
+    constexpr uint32_t bottom = 0x38800000u, top = Nearest ? 0x477FEFFFu : 0x477FFFFFu;
     const __m128i a = _mm_and_si128(x, c32(0x7FFFFFFFu));
-    const uint32_t top = Nearest ? 0x477FEFFFu : 0x477FFFFFu;
-    return _mm_or_si128(_mm_cmplt_epi32(a, c32(0x38800000u)), _mm_cmpgt_epi32(a, c32(top)));
+    const __m128i biased = _mm_add_epi32(a, c32(0x80000000u - bottom));
+    return _mm_cmplt_epi32(biased, c32(top - bottom + 0x80000001u));
 }
 
-// Eight 32f bit patterns to eight halves stored at an aligned d; the full
-// rule runs only when some lane needs it.
-template <bool Nearest> inline void v_store_halves(Tav16f* d, __m128i lo, __m128i hi)
+// The full rule for 8k lanes, kept out of line so that the common loop keeps
+// its constants in registers.
+template <bool Nearest, size_t K>
+__attribute__((noinline)) void v_store_halves_full(Tav16f* d, const __m128i (&x)[2 * K])
 {
-    __m128i r;
-    if (_mm_movemask_epi8(_mm_or_si128(v_outside_plain<Nearest>(lo), v_outside_plain<Nearest>(hi))) == 0)
-        r = pack_low16(v_plain_half<Nearest>(lo), v_plain_half<Nearest>(hi));
-    else
-        r = pack_low16(v_float_to_half<Nearest>(lo), v_float_to_half<Nearest>(hi));
-    _mm_store_si128(reinterpret_cast<__m128i*>(d), r);
+    for (size_t k = 0; k < K; ++k)
+        _mm_store_si128(
+            reinterpret_cast<__m128i*>(d + 8 * k),
+            pack_low16(v_float_to_half<Nearest>(x[2 * k]), v_float_to_half<Nearest>(x[2 * k + 1])));
 }
 
+// 8K 32f bit patterns to halves stored at an aligned d; the full rule runs
+// only when some lane needs it.
+template <bool Nearest, size_t K> inline void v_store_halves(Tav16f* d, const __m128i (&x)[2 * K])
+{
+    __m128i in = v_inside_plain<Nearest>(x[0]);
+    for (size_t k = 1; k < 2 * K; ++k)
+        in = _mm_and_si128(in, v_inside_plain<Nearest>(x[k]));
+    if (_mm_movemask_epi8(in) != 0xFFFF) return v_store_halves_full<Nearest, K>(d, x);
+    for (size_t k = 0; k < K; ++k)
+        _mm_store_si128(
+            reinterpret_cast<__m128i*>(d + 8 * k),
+            _mm_packs_epi32(v_plain_half<Nearest>(x[2 * k]), v_plain_half<Nearest>(x[2 * k + 1])));
+}
+
+// Sixteen elements a step, then one step of eight where it fits.
 template <bool Nearest> void f32_to_16f(const Tav32f* src, Tav16f* dst, size_t n)
 {
-    drive<8>(
+    auto block = [&](size_t i, auto groups) {
+        constexpr size_t K = decltype(groups)::value;
+        __m128i x[2 * K];
+        for (size_t k = 0; k < 2 * K; ++k)
+            x[k] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i + 4 * k));
+        v_store_halves<Nearest, K>(dst + i, x);
+    };
+    drive<16, 8>(
         dst, n, 4,
         [&](size_t i) {
             const uint32_t x = ld<uint32_t>(src, i);
             st<uint16_t>(dst, i, Nearest ? float_to_half_nearest(x) : float_to_half_trunc(x));
         },
-        [&](size_t i) {
-            v_store_halves<Nearest>(dst + i, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i)),
-                                    _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i + 4)));
-        });
+        [&](size_t i) { block(i, std::integral_constant<size_t, 2>{}); },
+        [&](size_t i) { block(i, std::integral_constant<size_t, 1>{}); });
 }
 
 template <bool Nearest> void s16_to_16f(const Tav16s* src, Tav16f* dst, size_t n)
@@ -195,8 +222,9 @@ template <bool Nearest> void s16_to_16f(const Tav16s* src, Tav16f* dst, size_t n
         [&](size_t i) {
             __m128i lo, hi;
             widen_16s(_mm_loadu_si128(reinterpret_cast<const __m128i*>(src + i)), lo, hi);
-            v_store_halves<Nearest>(dst + i, _mm_castps_si128(_mm_cvtepi32_ps(lo)),
-                                    _mm_castps_si128(_mm_cvtepi32_ps(hi)));
+            const __m128i x[2] = {_mm_castps_si128(_mm_cvtepi32_ps(lo)),
+                                  _mm_castps_si128(_mm_cvtepi32_ps(hi))};
+            v_store_halves<Nearest, 1>(dst + i, x);
         });
 }
 

@@ -39,21 +39,62 @@ template <class D> inline void store_narrow(D* d, const __m128i* q)
     }
 }
 
+// Lanes from 65536.0 up (+Inf and positive NaNs too) are brought below
+// 66048.0 by a signed 16-bit minimum on the high half of each lane, which
+// every destination then saturates to its maximum. Negative lanes have
+// negative high halves and every low half is at most 0x7FFF, so nothing else
+// changes. The integer minimum runs beside the conversions, where a float
+// minimum would compete with them for the same units.
+inline __m128 clamp_high(__m128 x)
+{
+    return _mm_castsi128_ps(_mm_min_epi16(_mm_castps_si128(x), _mm_set1_epi32(0x47807FFF)));
+}
+
+// Half away from zero on four lanes already brought below 66048.0: with
+// t = trunc(2x), a lane at or above zero gives (t + 1) >> 1 and a negative
+// one t >> 1, which is the magnitude rule with the sign put back. 2x is
+// exact at every magnitude that does not saturate anyway, and trunc(2x) is
+// -trunc(2|x|) for negative x.
+inline __m128i vcvt_rha_clamped(__m128 x)
+{
+    const __m128i t = _mm_cvttps_epi32(_mm_add_ps(x, x));
+    const __m128i nonNeg = _mm_cmpgt_epi32(_mm_castps_si128(x), _mm_set1_epi32(-1));
+    return _mm_srai_epi32(_mm_sub_epi32(t, nonNeg), 1);
+}
+
 template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src, D* dst, size_t n, float f)
 {
     // Sixteen elements a step: one 16-byte store of 8-bit results, two of
-    // 16-bit ones.
+    // 16-bit ones, which finish with one eight-element step where it fits.
     constexpr size_t W = 16, perStore = 16 / sizeof(D);
     const float lo = float(Limits<D>::min), hi = float(Limits<D>::max);
-    const __m128 vlo = _mm_set1_ps(lo), vhi = _mm_set1_ps(hi), vf = _mm_set1_ps(f);
-    // Truncation and the processor's conversion need only the upper limit:
-    // anything below the lower one converts to a 32-bit value at or below it
-    // (or to the integer indefinite 0x80000000) and the saturating packs take
-    // it to the lower limit, as limiting first would. Half away doubles the
-    // value, and the biased 16u pack cannot take 0x80000000, so they limit both
-    // sides.
+    const __m128 vlo = _mm_set1_ps(lo), vf = _mm_set1_ps(f);
+    // Truncation and the processor's conversion take anything below the
+    // lower limit to a 32-bit value at or below it (or to the integer
+    // indefinite 0x80000000), which the saturating packs take to the lower
+    // limit, as limiting first would. Only the biased 16u pack cannot take
+    // 0x80000000, so it limits the low side. Half away doubles the value and
+    // halves the result, which keeps the indefinite negative.
     constexpr bool hiOnly = Mode != RoundHalfAway && !std::is_same_v<D, Tav16u>;
-    drive<W>(
+    // Converts and stores E elements from i (a whole number of stores).
+    auto block = [&](size_t i, auto elems) {
+        constexpr size_t E = decltype(elems)::value;
+        __m128i q[E / 4];
+        for (size_t k = 0; k < E / 4; ++k) {
+            __m128 x = _mm_loadu_ps(src + i + 4 * k);
+            if constexpr (Scale) x = _mm_mul_ps(x, vf);
+            x = clamp_high(x);
+            if constexpr (Mode == RoundHalfAway) {
+                q[k] = vcvt_rha_clamped(x);
+            } else {
+                if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
+                q[k] = vcvt_mode(x, Mode);
+            }
+        }
+        for (size_t k = 0; k < E / perStore; ++k)
+            store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
+    };
+    drive<W, perStore>(
         dst, n, 8,
         [&](size_t i) {
             float x = ld<Tav32f>(src, i);
@@ -63,17 +104,8 @@ template <class D, bool Scale, int Mode> void f32_small_kernel(const Tav32f* src
             else
                 st<D>(dst, i, D(cvt_mode(limit(x, lo, hi), Mode)));
         },
-        [&](size_t i) {
-            __m128i q[W / 4];
-            for (size_t k = 0; k < W / 4; ++k) {
-                __m128 x = _mm_loadu_ps(src + i + 4 * k);
-                if constexpr (Scale) x = _mm_mul_ps(x, vf);
-                if constexpr (!hiOnly) x = _mm_max_ps(x, vlo);
-                q[k] = vcvt_mode(_mm_min_ps(x, vhi), Mode);
-            }
-            for (size_t k = 0; k < W / perStore; ++k)
-                store_narrow(dst + i + k * perStore, q + k * (perStore / 4));
-        });
+        [&](size_t i) { block(i, std::integral_constant<size_t, W>{}); },
+        [&](size_t i) { block(i, std::integral_constant<size_t, perStore>{}); });
 }
 
 template <class D, bool Scale> void f32_small_modes(const Tav32f* src, D* dst, size_t n, float f, int rndMode)

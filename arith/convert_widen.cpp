@@ -78,6 +78,14 @@ template <bool Signed> inline void widen_16(__m128i v, __m128i& lo, __m128i& hi)
     }
 }
 
+// Eight 16s or 32s elements as two vectors of 32-bit lanes.
+inline void load8_32s(const Tav16s* s, __m128i& a, __m128i& b) { widen_16s(load16(s), a, b); }
+inline void load8_32s(const Tav32s* s, __m128i& a, __m128i& b)
+{
+    a = load16(s);
+    b = load16(s + 4);
+}
+
 // Integer to float with dst = src * 2^-scaleFactor: conversion, then one
 // multiply by the factor built in the destination type.
 template <class S, class F> Status scaled_to_float(const S* src, F* dst, int len, int scaleFactor)
@@ -89,26 +97,15 @@ template <class S, class F> Status scaled_to_float(const S* src, F* dst, int len
         const __m128 vf = _mm_set1_ps(f);
         drive<8>(dst, size_t(len), 8, scalar, [&](size_t i) {
             __m128i a, b;
-            if constexpr (sizeof(S) == 2) {
-                widen_16s(load16(src + i), a, b);
-            } else {
-                a = load16(src + i);
-                b = load16(src + i + 4);
-            }
+            load8_32s(src + i, a, b);
             _mm_store_ps(dst + i, _mm_mul_ps(_mm_cvtepi32_ps(a), vf));
             _mm_store_ps(dst + i + 4, _mm_mul_ps(_mm_cvtepi32_ps(b), vf));
         });
     } else {
         const __m128d vf = _mm_set1_pd(f);
         drive<8>(dst, size_t(len), 8, scalar, [&](size_t i) {
-            __m128i a, b;
-            if constexpr (sizeof(S) == 2) {
-                widen_16s(load16(src + i), a, b);
-            } else {
-                a = load16(src + i);
-                b = load16(src + i + 4);
-            }
-            const __m128i v[2] = {a, b};
+            __m128i v[2];
+            load8_32s(src + i, v[0], v[1]);
             for (int k = 0; k < 2; ++k) {
                 __m128i hiPair = _mm_shuffle_epi32(v[k], _MM_SHUFFLE(1, 0, 3, 2));
                 _mm_store_pd(dst + i + 4 * k, _mm_mul_pd(_mm_cvtepi32_pd(v[k]), vf));

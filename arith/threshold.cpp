@@ -12,25 +12,15 @@
 #include "internal/check.h"
 #include "internal/lane_loop.h"
 #include "internal/movers.h"
+#include "internal/threshold.h"
 
 namespace {
 
-using tavs::any_null;
 using tavs::lanes::ld;
 using tavs::lanes::st;
+using tavs::thresh::map;
 
-template <class T, class F> void map(const T* src, T* dst, int len, F f)
-{
-    for (size_t i = 0, n = size_t(len); i < n; ++i) st(dst, i, f(ld(src, i)));
-}
-
-// The common head: pointers, then the length.
-template <class T> Status head(const T* src, const T* dst, int len)
-{
-    if (any_null(src, dst)) return ErrNullPtr;
-    if (len < 1) return ErrSize;
-    return StatusOk;
-}
+using tavs::check_ptrs_len;
 
 // LT (Low) keeps x when x is above L, else stores L; GT keeps x when x is
 // below L. The block forms: maxps(x, L) is "x > L ? x : L" and minps(x, L)
@@ -70,7 +60,7 @@ template <bool Low, class T> void clamp(const T* src, T* dst, int len, T L)
 
 template <class T> Status thresh_sel(const T* src, T* dst, int len, T level, int relOp)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     if (relOp != CmpLess && relOp != CmpGreater) return ErrBadArg;
     if (relOp == CmpLess) clamp<true>(src, dst, len, level);
     else clamp<false>(src, dst, len, level);
@@ -80,7 +70,7 @@ template <class T> Status thresh_sel(const T* src, T* dst, int len, T level, int
 // 32s has no selector form; its LT and GT come here.
 template <bool Low> Status thresh_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     clamp<Low>(src, dst, len, level);
     return StatusOk;
 }
@@ -88,7 +78,7 @@ template <bool Low> Status thresh_32s(const Tav32s* src, Tav32s* dst, int len, T
 // |x| below L becomes L with the sign of x.
 template <class T> Status lt_abs(const T* src, T* dst, int len, T L)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     if (L < 0) return ErrThresholdNegative;
     if constexpr (std::is_floating_point_v<T>) {
         // x at or above 0 (so -0.0 too) takes +L; a NaN element stays.
@@ -110,7 +100,7 @@ template <class T> Status lt_abs(const T* src, T* dst, int len, T L)
 // |x| above L becomes L with the sign of x.
 template <class T> Status gt_abs(const T* src, T* dst, int len, T L)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     if (L < 0) return ErrThresholdNegative;
     if constexpr (std::is_floating_point_v<T>) {
         // min(x, L), then max(that, -L), the second operand winning on NaN
@@ -130,24 +120,18 @@ template <class T> Status gt_abs(const T* src, T* dst, int len, T L)
     return StatusOk;
 }
 
-template <class T> Status lt_val(const T* src, T* dst, int len, T L, T value)
+// x stays when x >= L (Low) or L >= x, else value; a NaN element takes value.
+template <bool Low, class T> Status thresh_val(const T* src, T* dst, int len, T L, T value)
 {
-    if (Status s = head(src, dst, len)) return s;
-    map(src, dst, len, [=](T x) { return x >= L ? x : value; });
-    return StatusOk;
-}
-
-template <class T> Status gt_val(const T* src, T* dst, int len, T L, T value)
-{
-    if (Status s = head(src, dst, len)) return s;
-    map(src, dst, len, [=](T x) { return L >= x ? x : value; });
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
+    tavs::thresh::keep_or_value<Low>(src, dst, len, L, value, [](T x) { return x; });
     return StatusOk;
 }
 
 // Neither comparison holds for NaN, so a NaN element stays.
 template <class T> Status lt_val_gt_val(const T* src, T* dst, int len, T lo, T loVal, T hi, T hiVal)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     if (lo > hi) return ErrThresholdOrder;
     map(src, dst, len, [=](T x) { return x < lo ? loVal : (x > hi ? hiVal : x); });
     return StatusOk;
@@ -157,18 +141,14 @@ template <class T> Status lt_val_gt_val(const T* src, T* dst, int len, T lo, T l
 // sign) gives +Inf and the warning.
 template <class T> Status lt_inv(const T* src, T* dst, int len, T L)
 {
-    if (Status s = head(src, dst, len)) return s;
+    if (Status s = check_ptrs_len(len, src, dst)) return s;
     if (L < 0) return ErrThresholdNegative;
     if (L == 0) {
-        bool zero = false;
-        map(src, dst, len, [&](T x) {
-            if (x == 0) {
-                zero = true;
-                return T(INFINITY);
-            }
-            return T(1) / x;
+        return tavs::thresh::map_inv_zero(src, dst, len, [](T x, bool& zero) {
+            if (x != 0) return T(1) / x;
+            zero = true;
+            return T(INFINITY);
         });
-        return zero ? WarnInvZero : StatusOk;
     }
     const T v = T(1) / L;
     // |x| equal to L stores the level's reciprocal with x's sign; NaN gives -v.
@@ -265,30 +245,30 @@ Status tavsThreshold_GTAbs_64f_I_body(Tav64f* srcDst, int len, Tav64f level)
 
 // ---- replacement values ----------------------------------------------------------
 Status tavsThreshold_LTVal_16s_body(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value)
-{ return lt_val(src, dst, len, level, value); }
+{ return thresh_val<true>(src, dst, len, level, value); }
 Status tavsThreshold_LTVal_16s_I_body(Tav16s* srcDst, int len, Tav16s level, Tav16s value)
-{ return lt_val<Tav16s>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<true, Tav16s>(srcDst, srcDst, len, level, value); }
 Status tavsThreshold_LTVal_32f_body(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value)
-{ return lt_val(src, dst, len, level, value); }
+{ return thresh_val<true>(src, dst, len, level, value); }
 Status tavsThreshold_LTVal_32f_I_body(Tav32f* srcDst, int len, Tav32f level, Tav32f value)
-{ return lt_val<Tav32f>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<true, Tav32f>(srcDst, srcDst, len, level, value); }
 Status tavsThreshold_LTVal_64f_body(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value)
-{ return lt_val(src, dst, len, level, value); }
+{ return thresh_val<true>(src, dst, len, level, value); }
 Status tavsThreshold_LTVal_64f_I_body(Tav64f* srcDst, int len, Tav64f level, Tav64f value)
-{ return lt_val<Tav64f>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<true, Tav64f>(srcDst, srcDst, len, level, value); }
 
 Status tavsThreshold_GTVal_16s_body(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value)
-{ return gt_val(src, dst, len, level, value); }
+{ return thresh_val<false>(src, dst, len, level, value); }
 Status tavsThreshold_GTVal_16s_I_body(Tav16s* srcDst, int len, Tav16s level, Tav16s value)
-{ return gt_val<Tav16s>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<false, Tav16s>(srcDst, srcDst, len, level, value); }
 Status tavsThreshold_GTVal_32f_body(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value)
-{ return gt_val(src, dst, len, level, value); }
+{ return thresh_val<false>(src, dst, len, level, value); }
 Status tavsThreshold_GTVal_32f_I_body(Tav32f* srcDst, int len, Tav32f level, Tav32f value)
-{ return gt_val<Tav32f>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<false, Tav32f>(srcDst, srcDst, len, level, value); }
 Status tavsThreshold_GTVal_64f_body(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value)
-{ return gt_val(src, dst, len, level, value); }
+{ return thresh_val<false>(src, dst, len, level, value); }
 Status tavsThreshold_GTVal_64f_I_body(Tav64f* srcDst, int len, Tav64f level, Tav64f value)
-{ return gt_val<Tav64f>(srcDst, srcDst, len, level, value); }
+{ return thresh_val<false, Tav64f>(srcDst, srcDst, len, level, value); }
 
 Status tavsThreshold_LTValGTVal_16s_body(const Tav16s* src, Tav16s* dst, int len, Tav16s lowLevel,
                                          Tav16s lowValue, Tav16s highLevel, Tav16s highValue)

@@ -10,18 +10,13 @@
 
 #include "internal/check.h"
 #include "internal/lane_loop.h"
+#include "internal/threshold.h"
 
 namespace {
 
 using tavs::any_null;
 using tavs::part_t;
-using tavs::lanes::ld;
-using tavs::lanes::st;
-
-template <class C, class F> void map(const C* src, C* dst, int len, F f)
-{
-    for (size_t i = 0, n = size_t(len); i < n; ++i) st(dst, i, f(ld(src, i)));
-}
+using tavs::thresh::map;
 
 // Pointers, length, then the level as a magnitude.
 template <class C, class P> Status head(const C* src, const C* dst, int len, P level)
@@ -138,19 +133,10 @@ template <class C> Status thresh_sel(const C* src, C* dst, int len, part_t<C> le
 template <bool Low, class C> Status thresh_val(const C* src, C* dst, int len, part_t<C> level, C value)
 {
     if (Status s = head(src, dst, len, level)) return s;
-    if constexpr (std::is_same_v<C, Tav16sc>) {
-        const uint32_t L2 = uint32_t(int32_t(level) * level);
-        map(src, dst, len, [=](C x) {
-            const uint32_t n = mag2_16sc(x);
-            return (Low ? n >= L2 : L2 >= n) ? x : value;
-        });
-    } else {
-        const double L2 = double(level) * double(level);
-        map(src, dst, len, [=](C x) {
-            const double n = mag2(x);
-            return (Low ? n >= L2 : L2 >= n) ? x : value;
-        });
-    }
+    if constexpr (std::is_same_v<C, Tav16sc>)
+        tavs::thresh::keep_or_value<Low>(src, dst, len, uint32_t(int32_t(level) * level), value, mag2_16sc);
+    else
+        tavs::thresh::keep_or_value<Low>(src, dst, len, double(level) * double(level), value, mag2<C>);
     return StatusOk;
 }
 
@@ -162,8 +148,7 @@ template <class C> Status lt_inv(const C* src, C* dst, int len, part_t<C> L)
     if (Status s = head(src, dst, len, L)) return s;
     const P LL = L * L;
     if (LL == 0) {
-        bool zero = false;
-        map(src, dst, len, [&](C x) {
+        return tavs::thresh::map_inv_zero(src, dst, len, [](C x, bool& zero) {
             const P r = x.re * x.re + x.im * x.im;
             if (r == 0) {
                 zero = true;
@@ -172,7 +157,6 @@ template <class C> Status lt_inv(const C* src, C* dst, int len, part_t<C> L)
             const P inv = P(1) / r;
             return C{x.re * inv, P(-x.im) * inv};
         });
-        return zero ? WarnInvZero : StatusOk;
     }
     const P v = P(1) / L;
     map(src, dst, len, [=](C x) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_VOLK
@@ -28,7 +29,7 @@ template <class T> struct Buffers {
         auto* pb = reinterpret_cast<P*>(b);
         uint32_t x = 12345;
         for (size_t i = 0; i < size_t(n) * sizeof(T) / sizeof(P); ++i) {
-            x = x * 1664525u + 1013904223u;
+            bench::lcg_next(x);
             if constexpr (sizeof(P) == 2) {
                 pa[i] = P(x >> 16);
                 pb[i] = P(x);
@@ -46,14 +47,8 @@ template <class T> struct Buffers {
     }
 };
 
-template <class F> void run(benchmark::State& state, F body)
-{
-    for (auto _ : state) {
-        body();
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * state.range(0));
-}
+// Times body on the buffers, whose destination the clobber keeps.
+template <class F> void run(benchmark::State& state, F body) { bench::timed(state, nullptr, state.range(0), body); }
 
 // ---- Add_32f ------------------------------------------------------------------------
 void bm_add_32f_tavs(benchmark::State& st)

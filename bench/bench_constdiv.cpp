@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_VOLK
@@ -26,12 +27,7 @@ void bm_mulc_32f_tavs(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp32f(size_t(n), 1.0f);
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsMulC_32f(src.data(), 1.5f, dst.data(), n);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    bench::timed(state, dst.data(), n, [&] { tavsMulC_32f(src.data(), 1.5f, dst.data(), n); });
 }
 
 void bm_mulc_32f_loop(benchmark::State& state)
@@ -39,15 +35,12 @@ void bm_mulc_32f_loop(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp32f(size_t(n), 1.0f);
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         const float* s = src.data();
         float* d = dst.data();
         benchmark::DoNotOptimize(s);
         for (int i = 0; i < n; ++i) d[i] = s[i] * 1.5f;
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    });
 }
 
 #ifdef TAVS_HAVE_VOLK
@@ -59,12 +52,7 @@ void bm_mulc_32f_volk(benchmark::State& state)
     auto* dst = static_cast<float*>(volk_malloc(size_t(n) * sizeof(float), align));
     auto init = ramp32f(size_t(n), 1.0f);
     for (int i = 0; i < n; ++i) src[i] = init[size_t(i)];
-    for (auto _ : state) {
-        volk_32f_s32f_multiply_32f(dst, src, 1.5f, unsigned(n));
-        benchmark::DoNotOptimize(dst);
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    bench::timed(state, dst, n, [&] { volk_32f_s32f_multiply_32f(dst, src, 1.5f, unsigned(n)); });
     volk_free(src);
     volk_free(dst);
 }
@@ -83,12 +71,7 @@ void bm_addc_16s_tavs(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp16s(size_t(n));
     std::vector<Tav16s> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsAddC_16s_Sfs(src.data(), 1234, dst.data(), n, 1);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    bench::timed(state, dst.data(), n, [&] { tavsAddC_16s_Sfs(src.data(), 1234, dst.data(), n, 1); });
 }
 
 // The same rule written plainly: exact sum, ties to even at scale 1, saturation.
@@ -97,7 +80,7 @@ void bm_addc_16s_loop(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp16s(size_t(n));
     std::vector<Tav16s> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         const Tav16s* s = src.data();
         Tav16s* d = dst.data();
         benchmark::DoNotOptimize(s);
@@ -107,10 +90,7 @@ void bm_addc_16s_loop(benchmark::State& state)
             r = r > 32767 ? 32767 : r < -32768 ? -32768 : r;
             d[i] = Tav16s(r);
         }
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    });
 }
 
 // ---- Div_32f ------------------------------------------------------------------------
@@ -119,12 +99,7 @@ void bm_div_32f_tavs(benchmark::State& state)
     const int n = int(state.range(0));
     auto a = ramp32f(size_t(n), 1.0f), b = ramp32f(size_t(n), -200.0f);
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsDiv_32f(a.data(), b.data(), dst.data(), n);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    bench::timed(state, dst.data(), n, [&] { tavsDiv_32f(a.data(), b.data(), dst.data(), n); });
 }
 
 // Plain loop with the same zero-divisor rule (no zero occurs in the data).
@@ -133,7 +108,7 @@ void bm_div_32f_loop(benchmark::State& state)
     const int n = int(state.range(0));
     auto a = ramp32f(size_t(n), 1.0f), b = ramp32f(size_t(n), -200.0f);
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         const float* s1 = a.data();
         const float* s2 = b.data();
         float* d = dst.data();
@@ -148,10 +123,7 @@ void bm_div_32f_loop(benchmark::State& state)
             }
         }
         benchmark::DoNotOptimize(zero);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * n);
+    });
 }
 
 } // namespace

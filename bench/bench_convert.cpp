@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_VOLK
@@ -15,69 +16,51 @@
 
 namespace {
 
-template <class T> struct Buffer {
-    explicit Buffer(size_t n) : p(static_cast<T*>(std::aligned_alloc(64, (n * sizeof(T) + 63) / 64 * 64))) {}
-    ~Buffer() { std::free(p); }
-    Buffer(const Buffer&) = delete;
-    Buffer& operator=(const Buffer&) = delete;
-    T* p;
-};
-
-void fill_16s(Tav16s* v, size_t n)
+void fill(Tav16s* v, size_t n)
 {
     uint32_t s = 12345;
-    for (size_t i = 0; i < n; ++i) {
-        s = s * 1664525u + 1013904223u;
-        v[i] = Tav16s(s >> 16);
-    }
+    for (size_t i = 0; i < n; ++i)
+        v[i] = Tav16s(bench::lcg_next(s) >> 16);
 }
-void fill_32f(Tav32f* v, size_t n, float scale)
+// Floats in [-scale, scale).
+template <int Scale> void fill(Tav32f* v, size_t n)
 {
     uint32_t s = 54321;
-    for (size_t i = 0; i < n; ++i) {
-        s = s * 1664525u + 1013904223u;
-        v[i] = (float(s >> 8) / 16777216.0f * 2.0f - 1.0f) * scale;
-    }
+    for (size_t i = 0; i < n; ++i)
+        v[i] = (float(bench::lcg_next(s) >> 8) / 16777216.0f * 2.0f - 1.0f) * float(Scale);
 }
 
-template <class F> void run(benchmark::State& state, F f)
+// A source of S filled by fill and a destination of D, both 64-byte
+// aligned, and f(src, dst, n) timed on them.
+template <class S, class D, class F> void convert(benchmark::State& state, void (*fill)(S*, size_t), F f)
 {
-    for (auto _ : state) {
-        f();
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * state.range(0));
+    const int n = int(state.range(0));
+    bench::Buffer<S> s{size_t(n)};
+    bench::Buffer<D> d{size_t(n)};
+    fill(s.p, size_t(n));
+    bench::timed(state, d.p, n, [&] { f(s.p, d.p, n); });
 }
 
 // ---- 16s to 32f ------------------------------------------------------------------
 
 void bm_16s32f_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav16s> s{size_t(n)};
-    Buffer<Tav32f> d{size_t(n)};
-    fill_16s(s.p, size_t(n));
-    run(state, [&] { tavsConvert_16s32f(s.p, d.p, n); });
+    convert<Tav16s, Tav32f>(state, fill,
+                            [](const Tav16s* s, Tav32f* d, int n) { tavsConvert_16s32f(s, d, n); });
 }
 void bm_16s32f_loop(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav16s> s{size_t(n)};
-    Buffer<Tav32f> d{size_t(n)};
-    fill_16s(s.p, size_t(n));
-    run(state, [&] {
+    convert<Tav16s, Tav32f>(state, fill, [](const Tav16s* s, Tav32f* d, int n) {
         for (int i = 0; i < n; ++i)
-            d.p[i] = float(s.p[i]);
+            d[i] = float(s[i]);
     });
 }
 #ifdef TAVS_HAVE_VOLK
 void bm_16s32f_volk(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav16s> s{size_t(n)};
-    Buffer<Tav32f> d{size_t(n)};
-    fill_16s(s.p, size_t(n));
-    run(state, [&] { volk_16i_s32f_convert_32f(d.p, s.p, 1.0f, unsigned(n)); });
+    convert<Tav16s, Tav32f>(state, fill, [](const Tav16s* s, Tav32f* d, int n) {
+        volk_16i_s32f_convert_32f(d, s, 1.0f, unsigned(n));
+    });
 }
 #endif
 
@@ -85,34 +68,26 @@ void bm_16s32f_volk(benchmark::State& state)
 
 void bm_32f16s_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav32f> s{size_t(n)};
-    Buffer<Tav16s> d{size_t(n)};
-    fill_32f(s.p, size_t(n), 40000.0f);
-    run(state, [&] { tavsConvert_32f16s_Sfs(s.p, d.p, n, RoundHalfEven, 0); });
+    convert<Tav32f, Tav16s>(state, fill<40000>, [](const Tav32f* s, Tav16s* d, int n) {
+        tavsConvert_32f16s_Sfs(s, d, n, RoundHalfEven, 0);
+    });
 }
 void bm_32f16s_loop(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav32f> s{size_t(n)};
-    Buffer<Tav16s> d{size_t(n)};
-    fill_32f(s.p, size_t(n), 40000.0f);
-    run(state, [&] {
+    convert<Tav32f, Tav16s>(state, fill<40000>, [](const Tav32f* s, Tav16s* d, int n) {
         for (int i = 0; i < n; ++i) {
-            float v = s.p[i];
+            float v = s[i];
             v = v < -32768.0f ? -32768.0f : (v > 32767.0f ? 32767.0f : v);
-            d.p[i] = Tav16s(std::lrintf(v));
+            d[i] = Tav16s(std::lrintf(v));
         }
     });
 }
 #ifdef TAVS_HAVE_VOLK
 void bm_32f16s_volk(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav32f> s{size_t(n)};
-    Buffer<Tav16s> d{size_t(n)};
-    fill_32f(s.p, size_t(n), 40000.0f);
-    run(state, [&] { volk_32f_s32f_convert_16i(d.p, s.p, 1.0f, unsigned(n)); });
+    convert<Tav32f, Tav16s>(state, fill<40000>, [](const Tav32f* s, Tav16s* d, int n) {
+        volk_32f_s32f_convert_16i(d, s, 1.0f, unsigned(n));
+    });
 }
 #endif
 
@@ -136,21 +111,15 @@ uint16_t half_nearest(float f)
 
 void bm_32f16f_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav32f> s{size_t(n)};
-    Buffer<Tav16f> d{size_t(n)};
-    fill_32f(s.p, size_t(n), 1.0f);
-    run(state, [&] { tavsConvert_32f16f(s.p, d.p, n, RoundHalfEven); });
+    convert<Tav32f, Tav16f>(state, fill<1>, [](const Tav32f* s, Tav16f* d, int n) {
+        tavsConvert_32f16f(s, d, n, RoundHalfEven);
+    });
 }
 void bm_32f16f_loop(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    Buffer<Tav32f> s{size_t(n)};
-    Buffer<Tav16f> d{size_t(n)};
-    fill_32f(s.p, size_t(n), 1.0f);
-    run(state, [&] {
+    convert<Tav32f, Tav16f>(state, fill<1>, [](const Tav32f* s, Tav16f* d, int n) {
         for (int i = 0; i < n; ++i)
-            d.p[i].bits = half_nearest(s.p[i]);
+            d[i].bits = half_nearest(s[i]);
     });
 }
 

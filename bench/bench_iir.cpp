@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_LIQUID
@@ -63,80 +64,58 @@ template <class T> std::vector<T> cast(const std::vector<double>& v)
 
 // ---- tavs -----------------------------------------------------------------------------
 
-void bm_biquad_32f_tavs(benchmark::State& state)
+// Sizes the state with getSize(&bytes), builds it in a caller block with
+// init(&state, taps, mem) and times filter(x, y, n, state) on the signal.
+template <class T, class State, class GetSize, class Init, class Filter>
+void iir_tavs(benchmark::State& state, const std::vector<double>& taps, GetSize getSize, Init init,
+              Filter filter)
 {
     const int n = int(state.range(0));
-    auto taps = cast<float>(sections());
+    auto t = cast<T>(taps);
     int size = 0;
-    tavsIIRGetStateSize_BiQuad_32f(kSections, &size);
+    getSize(&size);
     std::vector<Tav8u> mem(static_cast<size_t>(size));
-    IIRState_32f* st = nullptr;
-    tavsIIRInit_BiQuad_32f(&st, taps.data(), kSections, nullptr, mem.data());
-    auto x = signal<float>(size_t(n));
-    std::vector<float> y(x.size());
-    for (auto _ : state) {
-        tavsIIR_32f(x.data(), y.data(), n, st);
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    State* st = nullptr;
+    init(&st, t.data(), mem.data());
+    auto x = signal<T>(size_t(n));
+    std::vector<T> y(x.size());
+    bench::timed(state, y.data(), n, [&] { filter(x.data(), y.data(), n, st); });
+}
+
+void bm_biquad_32f_tavs(benchmark::State& state)
+{
+    iir_tavs<float, IIRState_32f>(
+        state, sections(), [](int* size) { tavsIIRGetStateSize_BiQuad_32f(kSections, size); },
+        [](IIRState_32f** st, const float* t, Tav8u* mem) {
+            tavsIIRInit_BiQuad_32f(st, t, kSections, nullptr, mem);
+        },
+        tavsIIR_32f);
 }
 
 void bm_order8_32f_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    auto taps = cast<float>(order8());
-    int size = 0;
-    tavsIIRGetStateSize_32f(8, &size);
-    std::vector<Tav8u> mem(static_cast<size_t>(size));
-    IIRState_32f* st = nullptr;
-    tavsIIRInit_32f(&st, taps.data(), 8, nullptr, mem.data());
-    auto x = signal<float>(size_t(n));
-    std::vector<float> y(x.size());
-    for (auto _ : state) {
-        tavsIIR_32f(x.data(), y.data(), n, st);
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    iir_tavs<float, IIRState_32f>(
+        state, order8(), [](int* size) { tavsIIRGetStateSize_32f(8, size); },
+        [](IIRState_32f** st, const float* t, Tav8u* mem) { tavsIIRInit_32f(st, t, 8, nullptr, mem); },
+        tavsIIR_32f);
 }
 
 void bm_biquad_64f_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    auto taps = sections();
-    int size = 0;
-    tavsIIRGetStateSize_BiQuad_64f(kSections, &size);
-    std::vector<Tav8u> mem(static_cast<size_t>(size));
-    IIRState_64f* st = nullptr;
-    tavsIIRInit_BiQuad_64f(&st, taps.data(), kSections, nullptr, mem.data());
-    auto x = signal<double>(size_t(n));
-    std::vector<double> y(x.size());
-    for (auto _ : state) {
-        tavsIIR_64f(x.data(), y.data(), n, st);
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    iir_tavs<double, IIRState_64f>(
+        state, sections(), [](int* size) { tavsIIRGetStateSize_BiQuad_64f(kSections, size); },
+        [](IIRState_64f** st, const double* t, Tav8u* mem) {
+            tavsIIRInit_BiQuad_64f(st, t, kSections, nullptr, mem);
+        },
+        tavsIIR_64f);
 }
 
 void bm_order8_64f_tavs(benchmark::State& state)
 {
-    const int n = int(state.range(0));
-    auto taps = order8();
-    int size = 0;
-    tavsIIRGetStateSize_64f(8, &size);
-    std::vector<Tav8u> mem(static_cast<size_t>(size));
-    IIRState_64f* st = nullptr;
-    tavsIIRInit_64f(&st, taps.data(), 8, nullptr, mem.data());
-    auto x = signal<double>(size_t(n));
-    std::vector<double> y(x.size());
-    for (auto _ : state) {
-        tavsIIR_64f(x.data(), y.data(), n, st);
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    iir_tavs<double, IIRState_64f>(
+        state, order8(), [](int* size) { tavsIIRGetStateSize_64f(8, size); },
+        [](IIRState_64f** st, const double* t, Tav8u* mem) { tavsIIRInit_64f(st, t, 8, nullptr, mem); },
+        tavsIIR_64f);
 }
 
 // ---- plain loops ----------------------------------------------------------------------
@@ -154,7 +133,7 @@ template <class T> void bm_biquad_loop(benchmark::State& state)
     }
     auto x = signal<T>(size_t(n));
     std::vector<T> y(x.size());
-    for (auto _ : state) {
+    bench::timed(state, y.data(), n, [&] {
         for (int i = 0; i < n; ++i) {
             T v = x[size_t(i)];
             for (int k = 0; k < kSections; ++k) {
@@ -165,10 +144,7 @@ template <class T> void bm_biquad_loop(benchmark::State& state)
             }
             y[size_t(i)] = v;
         }
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 // Transposed direct form II of order 8, one sample at a time.
@@ -181,7 +157,7 @@ template <class T> void bm_order8_loop(benchmark::State& state)
         b[i] = T(t[size_t(i)] / t[9]), a[i] = T(t[size_t(9 + i)] / t[9]);
     auto x = signal<T>(size_t(n));
     std::vector<T> y(x.size());
-    for (auto _ : state) {
+    bench::timed(state, y.data(), n, [&] {
         for (int i = 0; i < n; ++i) {
             const T v = x[size_t(i)];
             const T o = b[0] * v + d[0];
@@ -190,10 +166,7 @@ template <class T> void bm_order8_loop(benchmark::State& state)
             d[7] = b[8] * v - a[8] * o;
             y[size_t(i)] = o;
         }
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 #ifdef TAVS_HAVE_LIQUID
@@ -211,13 +184,8 @@ void bm_sos_32f_liquid(benchmark::State& state)
     iirfilt_rrrf q = iirfilt_rrrf_create_sos(B.data(), A.data(), kSections);
     auto x = signal<float>(size_t(n));
     std::vector<float> y(x.size());
-    for (auto _ : state) {
-        iirfilt_rrrf_execute_block(q, x.data(), unsigned(n), y.data());
-        benchmark::DoNotOptimize(y.data());
-        benchmark::ClobberMemory();
-    }
+    bench::timed(state, y.data(), n, [&] { iirfilt_rrrf_execute_block(q, x.data(), unsigned(n), y.data()); });
     iirfilt_rrrf_destroy(q);
-    state.SetItemsProcessed(state.iterations() * n);
 }
 #endif
 

@@ -10,6 +10,7 @@
 #include <random>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_SLEEF
@@ -55,190 +56,143 @@ const Inputs& inputs(int n)
     return in;
 }
 
-// Runs fn over the input, records the items processed and the maximum ulp
-// error of one run's output against ref.
-template <class Out, class Fn, class Ref>
-void run(benchmark::State& state, std::vector<Out>& out, Fn fn, Ref ref)
+// Input field F of the shared inputs through fn(in, out) once per
+// iteration, with Out results; the row also records the maximum ulp error of
+// one run's output against ref.
+template <class Out, class In, class Fn, class Ref>
+void run(benchmark::State& s, std::vector<In> Inputs::*field, Fn fn, Ref ref)
 {
-    for (auto _ : state) {
-        fn();
-        benchmark::DoNotOptimize(out.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(int64_t(state.iterations()) * int64_t(out.size()));
+    const auto& in = inputs(int(s.range(0))).*field;
+    std::vector<Out> out(in.size());
+    bench::timed(s, out.data(), int64_t(out.size()), [&] { fn(in, out); });
     double worst = 0;
     for (size_t i = 0; i < out.size(); ++i)
         worst = std::max(worst, ulp_error(out[i], ref(i)));
-    state.counters["max_ulp"] = worst;
+    s.counters["max_ulp"] = worst;
 }
 
-// ---- Exp_32f -----------------------------------------------------------------------------
+// The plain loop a caller would write: out[i] = f(in[i]).
+template <class F> auto each(F f)
+{
+    return [f](const auto& in, auto& out) {
+        for (size_t i = 0; i < in.size(); ++i)
+            out[i] = f(in[i]);
+    };
+}
+
+// ---- references --------------------------------------------------------------------------
 long double ref_exp32(size_t i) { return std::exp((long double)inputs(4096).expIn[i]); }
-
-void bm_exp32f_tavs(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).expIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out, [&] { tavsExp_32f(in.data(), out.data(), int(in.size())); }, ref_exp32);
-}
-void bm_exp32f_loop(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).expIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); ++i)
-                out[i] = std::exp(in[i]);
-        },
-        ref_exp32);
-}
-BENCHMARK(bm_exp32f_tavs)->Name("Exp_32f/tavs")->Arg(4096);
-BENCHMARK(bm_exp32f_loop)->Name("Exp_32f/loop")->Arg(4096);
-
-// ---- Ln_32f ------------------------------------------------------------------------------
 long double ref_ln32(size_t i) { return std::log((long double)inputs(4096).lnIn[i]); }
-
-void bm_ln32f_tavs(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).lnIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out, [&] { tavsLn_32f(in.data(), out.data(), int(in.size())); }, ref_ln32);
-}
-void bm_ln32f_loop(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).lnIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); ++i)
-                out[i] = std::log(in[i]);
-        },
-        ref_ln32);
-}
-BENCHMARK(bm_ln32f_tavs)->Name("Ln_32f/tavs")->Arg(4096);
-BENCHMARK(bm_ln32f_loop)->Name("Ln_32f/loop")->Arg(4096);
-
-// ---- Exp_64f -----------------------------------------------------------------------------
 long double ref_exp64(size_t i) { return std::exp((long double)inputs(4096).exp64In[i]); }
-
-void bm_exp64f_tavs(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).exp64In;
-    std::vector<double> out(in.size());
-    run(
-        s, out, [&] { tavsExp_64f(in.data(), out.data(), int(in.size())); }, ref_exp64);
-}
-void bm_exp64f_loop(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).exp64In;
-    std::vector<double> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); ++i)
-                out[i] = std::exp(in[i]);
-        },
-        ref_exp64);
-}
-BENCHMARK(bm_exp64f_tavs)->Name("Exp_64f/tavs")->Arg(4096);
-BENCHMARK(bm_exp64f_loop)->Name("Exp_64f/loop")->Arg(4096);
-
-// ---- Magnitude_32fc ----------------------------------------------------------------------
 long double ref_mag(size_t i)
 {
     const auto& c = inputs(4096).cplx[i];
     return std::sqrt((long double)c.re * c.re + (long double)c.im * c.im);
 }
-
-void bm_mag_tavs(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out, [&] { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
-}
-void bm_mag_loop(benchmark::State& s)
-{
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); ++i)
-                out[i] = std::hypot(in[i].re, in[i].im);
-        },
-        ref_mag);
-}
-BENCHMARK(bm_mag_tavs)->Name("Magnitude_32fc/tavs")->Arg(4096);
-BENCHMARK(bm_mag_loop)->Name("Magnitude_32fc/loop")->Arg(4096);
-
-// ---- Phase_32fc --------------------------------------------------------------------------
 long double ref_phase(size_t i)
 {
     const auto& c = inputs(4096).cplx[i];
     return std::atan2((long double)c.im, (long double)c.re);
 }
 
+// ---- tavs and plain loops ----------------------------------------------------------------
+void bm_exp32f_tavs(benchmark::State& s)
+{
+    run<float>(
+        s, &Inputs::expIn, [](auto& in, auto& out) { tavsExp_32f(in.data(), out.data(), int(in.size())); },
+        ref_exp32);
+}
+void bm_exp32f_loop(benchmark::State& s)
+{
+    run<float>(s, &Inputs::expIn, each([](float x) { return std::exp(x); }), ref_exp32);
+}
+void bm_ln32f_tavs(benchmark::State& s)
+{
+    run<float>(
+        s, &Inputs::lnIn, [](auto& in, auto& out) { tavsLn_32f(in.data(), out.data(), int(in.size())); },
+        ref_ln32);
+}
+void bm_ln32f_loop(benchmark::State& s)
+{
+    run<float>(s, &Inputs::lnIn, each([](float x) { return std::log(x); }), ref_ln32);
+}
+void bm_exp64f_tavs(benchmark::State& s)
+{
+    run<double>(
+        s, &Inputs::exp64In, [](auto& in, auto& out) { tavsExp_64f(in.data(), out.data(), int(in.size())); },
+        ref_exp64);
+}
+void bm_exp64f_loop(benchmark::State& s)
+{
+    run<double>(s, &Inputs::exp64In, each([](double x) { return std::exp(x); }), ref_exp64);
+}
+void bm_mag_tavs(benchmark::State& s)
+{
+    run<float>(
+        s, &Inputs::cplx,
+        [](auto& in, auto& out) { tavsMagnitude_32fc(in.data(), out.data(), int(in.size())); }, ref_mag);
+}
+void bm_mag_loop(benchmark::State& s)
+{
+    run<float>(s, &Inputs::cplx, each([](Tav32fc c) { return std::hypot(c.re, c.im); }), ref_mag);
+}
 void bm_phase_tavs(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out, [&] { tavsPhase_32fc(in.data(), out.data(), int(in.size())); }, ref_phase);
+    run<float>(
+        s, &Inputs::cplx, [](auto& in, auto& out) { tavsPhase_32fc(in.data(), out.data(), int(in.size())); },
+        ref_phase);
 }
 void bm_phase_loop(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); ++i)
-                out[i] = std::atan2(in[i].im, in[i].re);
-        },
-        ref_phase);
+    run<float>(s, &Inputs::cplx, each([](Tav32fc c) { return std::atan2(c.im, c.re); }), ref_phase);
 }
+BENCHMARK(bm_exp32f_tavs)->Name("Exp_32f/tavs")->Arg(4096);
+BENCHMARK(bm_exp32f_loop)->Name("Exp_32f/loop")->Arg(4096);
+BENCHMARK(bm_ln32f_tavs)->Name("Ln_32f/tavs")->Arg(4096);
+BENCHMARK(bm_ln32f_loop)->Name("Ln_32f/loop")->Arg(4096);
+BENCHMARK(bm_exp64f_tavs)->Name("Exp_64f/tavs")->Arg(4096);
+BENCHMARK(bm_exp64f_loop)->Name("Exp_64f/loop")->Arg(4096);
+BENCHMARK(bm_mag_tavs)->Name("Magnitude_32fc/tavs")->Arg(4096);
+BENCHMARK(bm_mag_loop)->Name("Magnitude_32fc/loop")->Arg(4096);
 BENCHMARK(bm_phase_tavs)->Name("Phase_32fc/tavs")->Arg(4096);
 BENCHMARK(bm_phase_loop)->Name("Phase_32fc/loop")->Arg(4096);
 
 #ifdef TAVS_HAVE_SLEEF
 // SLEEF's SSE2 functions, 1.0-ulp variants (hypot: 0.5 ulp), four floats or
 // two doubles a call.
+template <class F> auto sleef_f4(F f)
+{
+    return [f](const std::vector<float>& in, std::vector<float>& out) {
+        for (size_t i = 0; i < in.size(); i += 4)
+            _mm_storeu_ps(&out[i], f(_mm_loadu_ps(&in[i])));
+    };
+}
+// Four complex elements a call, split into real and imaginary vectors.
+template <class F> auto sleef_c4(F f)
+{
+    return [f](const std::vector<Tav32fc>& in, std::vector<float>& out) {
+        const float* p = &in[0].re;
+        for (size_t i = 0; i < in.size(); i += 4) {
+            const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
+            const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)),
+                         im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+            _mm_storeu_ps(&out[i], f(re, im));
+        }
+    };
+}
 void bm_exp32f_sleef(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).expIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); i += 4)
-                _mm_storeu_ps(&out[i], Sleef_expf4_u10sse2(_mm_loadu_ps(&in[i])));
-        },
-        ref_exp32);
+    run<float>(s, &Inputs::expIn, sleef_f4([](__m128 x) { return Sleef_expf4_u10sse2(x); }), ref_exp32);
 }
 void bm_ln32f_sleef(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).lnIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            for (size_t i = 0; i < in.size(); i += 4)
-                _mm_storeu_ps(&out[i], Sleef_logf4_u10sse2(_mm_loadu_ps(&in[i])));
-        },
-        ref_ln32);
+    run<float>(s, &Inputs::lnIn, sleef_f4([](__m128 x) { return Sleef_logf4_u10sse2(x); }), ref_ln32);
 }
 void bm_exp64f_sleef(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).exp64In;
-    std::vector<double> out(in.size());
-    run(
-        s, out,
-        [&] {
+    run<double>(
+        s, &Inputs::exp64In,
+        [](const std::vector<double>& in, std::vector<double>& out) {
             for (size_t i = 0; i < in.size(); i += 2)
                 _mm_storeu_pd(&out[i], Sleef_expd2_u10sse2(_mm_loadu_pd(&in[i])));
         },
@@ -246,37 +200,13 @@ void bm_exp64f_sleef(benchmark::State& s)
 }
 void bm_mag_sleef(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            const float* p = &in[0].re;
-            for (size_t i = 0; i < in.size(); i += 4) {
-                const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
-                const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)),
-                             im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
-                _mm_storeu_ps(&out[i], Sleef_hypotf4_u05sse2(re, im));
-            }
-        },
-        ref_mag);
+    run<float>(s, &Inputs::cplx, sleef_c4([](__m128 re, __m128 im) { return Sleef_hypotf4_u05sse2(re, im); }),
+               ref_mag);
 }
 void bm_phase_sleef(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
-            const float* p = &in[0].re;
-            for (size_t i = 0; i < in.size(); i += 4) {
-                const __m128 a = _mm_loadu_ps(p + 2 * i), b = _mm_loadu_ps(p + 2 * i + 4);
-                const __m128 re = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)),
-                             im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
-                _mm_storeu_ps(&out[i], Sleef_atan2f4_u10sse2(im, re));
-            }
-        },
-        ref_phase);
+    run<float>(s, &Inputs::cplx, sleef_c4([](__m128 re, __m128 im) { return Sleef_atan2f4_u10sse2(im, re); }),
+               ref_phase);
 }
 BENCHMARK(bm_exp32f_sleef)->Name("Exp_32f/sleef")->Arg(4096);
 BENCHMARK(bm_ln32f_sleef)->Name("Ln_32f/sleef")->Arg(4096);
@@ -290,18 +220,15 @@ BENCHMARK(bm_phase_sleef)->Name("Phase_32fc/sleef")->Arg(4096);
 // kernel followed by its scaling kernel.
 void bm_exp32f_volk(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).expIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out, [&] { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
+    run<float>(
+        s, &Inputs::expIn,
+        [](auto& in, auto& out) { volk_32f_exp_32f(out.data(), in.data(), unsigned(in.size())); }, ref_exp32);
 }
 void bm_ln32f_volk(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).lnIn;
-    std::vector<float> out(in.size());
-    run(
-        s, out,
-        [&] {
+    run<float>(
+        s, &Inputs::lnIn,
+        [](auto& in, auto& out) {
             volk_32f_log2_32f(out.data(), in.data(), unsigned(in.size()));
             volk_32f_s32f_multiply_32f(out.data(), out.data(), 0.6931471805599453f, unsigned(in.size()));
         },
@@ -309,19 +236,23 @@ void bm_ln32f_volk(benchmark::State& s)
 }
 void bm_mag_volk(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    const auto* c = reinterpret_cast<const lv_32fc_t*>(in.data());
-    run(
-        s, out, [&] { volk_32fc_magnitude_32f(out.data(), c, unsigned(in.size())); }, ref_mag);
+    run<float>(
+        s, &Inputs::cplx,
+        [](auto& in, auto& out) {
+            volk_32fc_magnitude_32f(out.data(), reinterpret_cast<const lv_32fc_t*>(in.data()),
+                                    unsigned(in.size()));
+        },
+        ref_mag);
 }
 void bm_phase_volk(benchmark::State& s)
 {
-    const auto& in = inputs(int(s.range(0))).cplx;
-    std::vector<float> out(in.size());
-    const auto* c = reinterpret_cast<const lv_32fc_t*>(in.data());
-    run(
-        s, out, [&] { volk_32fc_s32f_atan2_32f(out.data(), c, 1.0f, unsigned(in.size())); }, ref_phase);
+    run<float>(
+        s, &Inputs::cplx,
+        [](auto& in, auto& out) {
+            volk_32fc_s32f_atan2_32f(out.data(), reinterpret_cast<const lv_32fc_t*>(in.data()), 1.0f,
+                                     unsigned(in.size()));
+        },
+        ref_phase);
 }
 BENCHMARK(bm_exp32f_volk)->Name("Exp_32f/volk")->Arg(4096);
 BENCHMARK(bm_ln32f_volk)->Name("Ln_32f/volk")->Arg(4096);

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 namespace {
@@ -22,11 +23,7 @@ void bm_copy_32f_tavs(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp(size_t(n));
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsCopy_32f(src.data(), dst.data(), n);
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n, [&] { tavsCopy_32f(src.data(), dst.data(), n); });
 }
 
 void bm_copy_32f_memcpy(benchmark::State& state)
@@ -34,22 +31,15 @@ void bm_copy_32f_memcpy(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp(size_t(n));
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        std::memcpy(dst.data(), src.data(), size_t(n) * sizeof(float));
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n,
+                 [&] { std::memcpy(dst.data(), src.data(), size_t(n) * sizeof(float)); });
 }
 
 void bm_set_32f_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsSet_32f(1.5f, dst.data(), n);
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n, [&] { tavsSet_32f(1.5f, dst.data(), n); });
 }
 
 void bm_set_32f_loop(benchmark::State& state)
@@ -57,12 +47,10 @@ void bm_set_32f_loop(benchmark::State& state)
     const int n = int(state.range(0));
     std::vector<float> dst(static_cast<size_t>(n));
     float* d = dst.data();
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         for (int i = 0; i < n; ++i)
             d[i] = 1.5f;
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 void bm_flip_32f_tavs(benchmark::State& state)
@@ -70,11 +58,7 @@ void bm_flip_32f_tavs(benchmark::State& state)
     const int n = int(state.range(0));
     auto src = ramp(size_t(n));
     std::vector<float> dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsFlip_32f(src.data(), dst.data(), n);
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n, [&] { tavsFlip_32f(src.data(), dst.data(), n); });
 }
 
 void bm_flip_32f_loop(benchmark::State& state)
@@ -84,12 +68,10 @@ void bm_flip_32f_loop(benchmark::State& state)
     std::vector<float> dst(static_cast<size_t>(n));
     const float* s = src.data();
     float* d = dst.data();
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         for (int i = 0; i < n; ++i)
             d[i] = s[n - 1 - i];
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 } // namespace

@@ -4,8 +4,10 @@
 
 #include <cmath>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_VOLK
@@ -19,8 +21,7 @@ std::vector<float> data_32f(size_t n, uint32_t seed)
     std::vector<float> v(n);
     uint32_t s = seed;
     for (auto& x : v) {
-        s = s * 1664525u + 1013904223u;
-        x = float(int32_t(s >> 8) - (1 << 23)) / float(1 << 23);
+        x = float(int32_t(bench::lcg_next(s) >> 8) - (1 << 23)) / float(1 << 23);
     }
     return v;
 }
@@ -30,65 +31,57 @@ std::vector<Tav16s> data_16s(size_t n)
     std::vector<Tav16s> v(n);
     uint32_t s = 7;
     for (auto& x : v) {
-        s = s * 1664525u + 1013904223u;
-        x = Tav16s(s >> 16);
+        x = Tav16s(bench::lcg_next(s) >> 16);
     }
     return v;
 }
-
-void items(benchmark::State& st) { st.SetItemsProcessed(int64_t(st.iterations()) * st.range(0)); }
 
 // ---- Sum_32f ----------------------------------------------------------------------------
 void bm_sum_accurate_tavs(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 1);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsSum_32f(v.data(), int(v.size()), &s, HintAccurate);
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 void bm_sum_fast_tavs(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 1);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsSum_32f(v.data(), int(v.size()), &s, HintFast);
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 void bm_sum_accurate_loop(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 1);
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         double s = 0;
         for (float x : v) s += x;
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 void bm_sum_fast_loop(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 1);
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         float s = 0;
         for (float x : v) s += x;
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 #ifdef TAVS_HAVE_VOLK
 void bm_sum_volk(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 1);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         volk_32f_accumulator_s32f(&s, v.data(), unsigned(v.size()));
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 #endif
 
@@ -97,32 +90,29 @@ void bm_dot_tavs(benchmark::State& st)
 {
     auto a = data_32f(size_t(st.range(0)), 1), b = data_32f(size_t(st.range(0)), 2);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsDotProd_32f(a.data(), b.data(), int(a.size()), &s);
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 void bm_dot_loop(benchmark::State& st)
 {
     auto a = data_32f(size_t(st.range(0)), 1), b = data_32f(size_t(st.range(0)), 2);
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         float s = 0;
         for (size_t i = 0; i < a.size(); ++i) s += a[i] * b[i];
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 #ifdef TAVS_HAVE_VOLK
 void bm_dot_volk(benchmark::State& st)
 {
     auto a = data_32f(size_t(st.range(0)), 1), b = data_32f(size_t(st.range(0)), 2);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         volk_32f_x2_dot_prod_32f(&s, a.data(), b.data(), unsigned(a.size()));
-        benchmark::DoNotOptimize(s);
-    }
-    items(st);
+        return s;
+    });
 }
 #endif
 
@@ -132,16 +122,15 @@ void bm_maxindx_tavs(benchmark::State& st)
     auto v = data_32f(size_t(st.range(0)), 3);
     float m = 0;
     int i = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsMaxIndx_32f(v.data(), int(v.size()), &m, &i);
-        benchmark::DoNotOptimize(i);
-    }
-    items(st);
+        return i;
+    });
 }
 void bm_maxindx_loop(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 3);
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         float m = v[0];
         size_t at = 0;
         for (size_t k = 1; k < v.size(); ++k)
@@ -149,20 +138,18 @@ void bm_maxindx_loop(benchmark::State& st)
                 m = v[k];
                 at = k;
             }
-        benchmark::DoNotOptimize(at);
-    }
-    items(st);
+        return at;
+    });
 }
 #ifdef TAVS_HAVE_VOLK
 void bm_maxindx_volk(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 3);
     uint32_t at = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         volk_32f_index_max_32u(&at, v.data(), uint32_t(v.size()));
-        benchmark::DoNotOptimize(at);
-    }
-    items(st);
+        return at;
+    });
 }
 #endif
 
@@ -171,22 +158,20 @@ void bm_l2_tavs(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 4);
     float n = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsNorm_L2_32f(v.data(), int(v.size()), &n);
-        benchmark::DoNotOptimize(n);
-    }
-    items(st);
+        return n;
+    });
 }
 void bm_l2_loop(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 4);
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         double s = 0;
         for (float x : v) s += double(x) * double(x);
         float n = float(std::sqrt(s));
-        benchmark::DoNotOptimize(n);
-    }
-    items(st);
+        return n;
+    });
 }
 #ifdef TAVS_HAVE_VOLK
 // VOLK has no norm kernel: its dot product of the vector with itself.
@@ -194,12 +179,11 @@ void bm_l2_volk(benchmark::State& st)
 {
     auto v = data_32f(size_t(st.range(0)), 4);
     float s = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         volk_32f_x2_dot_prod_32f(&s, v.data(), v.data(), unsigned(v.size()));
         float n = std::sqrt(s);
-        benchmark::DoNotOptimize(n);
-    }
-    items(st);
+        return n;
+    });
 }
 #endif
 
@@ -208,26 +192,22 @@ void bm_minmax_tavs(benchmark::State& st)
 {
     auto v = data_16s(size_t(st.range(0)));
     Tav16s lo = 0, hi = 0;
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         tavsMinMax_16s(v.data(), int(v.size()), &lo, &hi);
-        benchmark::DoNotOptimize(lo);
-        benchmark::DoNotOptimize(hi);
-    }
-    items(st);
+        return std::make_pair(lo, hi);
+    });
 }
 void bm_minmax_loop(benchmark::State& st)
 {
     auto v = data_16s(size_t(st.range(0)));
-    for (auto _ : st) {
+    bench::timed_value(st, st.range(0), [&] {
         Tav16s lo = v[0], hi = v[0];
         for (Tav16s x : v) {
             lo = x < lo ? x : lo;
             hi = x > hi ? x : hi;
         }
-        benchmark::DoNotOptimize(lo);
-        benchmark::DoNotOptimize(hi);
-    }
-    items(st);
+        return std::make_pair(lo, hi);
+    });
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_VOLK
@@ -25,26 +26,18 @@ void bm_threshold_lt_32f_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<float> src = ramp_f(size_t(n)), dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsThreshold_LT_32f(src.data(), dst.data(), n, 1.0f);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n, [&] { tavsThreshold_LT_32f(src.data(), dst.data(), n, 1.0f); });
 }
 
 void bm_threshold_lt_32f_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<float> src = ramp_f(size_t(n)), dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         const float* s = src.data();
         float* d = dst.data();
         for (int i = 0; i < n; ++i) d[i] = s[i] > 1.0f ? s[i] : 1.0f;
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 void bm_and_8u_tavs(benchmark::State& state)
@@ -55,12 +48,7 @@ void bm_and_8u_tavs(benchmark::State& state)
         a[i] = Tav8u(i * 7);
         b[i] = Tav8u(i * 13 + 1);
     }
-    for (auto _ : state) {
-        tavsAnd_8u(a.data(), b.data(), d.data(), n);
-        benchmark::DoNotOptimize(d.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, d.data(), n, [&] { tavsAnd_8u(a.data(), b.data(), d.data(), n); });
 }
 
 void bm_and_8u_loop(benchmark::State& state)
@@ -71,15 +59,12 @@ void bm_and_8u_loop(benchmark::State& state)
         a[i] = Tav8u(i * 7);
         b[i] = Tav8u(i * 13 + 1);
     }
-    for (auto _ : state) {
+    bench::timed(state, d.data(), n, [&] {
         const Tav8u* x = a.data();
         const Tav8u* y = b.data();
         Tav8u* z = d.data();
         for (int i = 0; i < n; ++i) z[i] = Tav8u(x[i] & y[i]);
-        benchmark::DoNotOptimize(d.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 std::vector<Tav32fc> ramp_c(size_t n)
@@ -93,26 +78,18 @@ void bm_conj_32fc_tavs(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
-    for (auto _ : state) {
-        tavsConj_32fc(src.data(), dst.data(), n);
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    bench::timed(state, dst.data(), n, [&] { tavsConj_32fc(src.data(), dst.data(), n); });
 }
 
 void bm_conj_32fc_loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         const Tav32fc* s = src.data();
         Tav32fc* d = dst.data();
         for (int i = 0; i < n; ++i) d[i] = {s[i].re, -s[i].im};
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 
 #ifdef TAVS_HAVE_VOLK
@@ -120,13 +97,10 @@ void bm_conj_32fc_volk(benchmark::State& state)
 {
     const int n = int(state.range(0));
     std::vector<Tav32fc> src = ramp_c(size_t(n)), dst(static_cast<size_t>(n));
-    for (auto _ : state) {
+    bench::timed(state, dst.data(), n, [&] {
         volk_32fc_conjugate_32fc(reinterpret_cast<lv_32fc_t*>(dst.data()),
                                  reinterpret_cast<const lv_32fc_t*>(src.data()), unsigned(n));
-        benchmark::DoNotOptimize(dst.data());
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * n);
+    });
 }
 BENCHMARK(bm_conj_32fc_volk)->Name("Conj_32fc/volk")->Arg(4096);
 #endif

@@ -1051,6 +1051,55 @@ Status tavsFFTInv_CCSToR_32f_I(Tav32f* srcDst, const FFTSpec_R_32f* pSpec, Tav8u
 /* 64f: inverse real FFT from the CCS layout (N + 2 values) to N = 2^order samples; _I in place; wsp may be null. */
 Status tavsFFTInv_CCSToR_64f(const Tav64f* src, Tav64f* dst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
 Status tavsFFTInv_CCSToR_64f_I(Tav64f* srcDst, const FFTSpec_R_64f* pSpec, Tav8u* pBuffer);
+/* 16sc: the full spectrum of len values from the Pack layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPack_16sc(const Tav16s* src, Tav16sc* dst, int len);
+Status tavsConjPack_16sc_I(Tav16sc* srcDst, int len);
+/* 32fc: the full spectrum of len values from the Pack layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPack_32fc(const Tav32f* src, Tav32fc* dst, int len);
+Status tavsConjPack_32fc_I(Tav32fc* srcDst, int len);
+/* 64fc: the full spectrum of len values from the Pack layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPack_64fc(const Tav64f* src, Tav64fc* dst, int len);
+Status tavsConjPack_64fc_I(Tav64fc* srcDst, int len);
+/* 16sc: the full spectrum of len values from the Perm layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPerm_16sc(const Tav16s* src, Tav16sc* dst, int len);
+Status tavsConjPerm_16sc_I(Tav16sc* srcDst, int len);
+/* 32fc: the full spectrum of len values from the Perm layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPerm_32fc(const Tav32f* src, Tav32fc* dst, int len);
+Status tavsConjPerm_32fc_I(Tav32fc* srcDst, int len);
+/* 64fc: the full spectrum of len values from the Perm layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjPerm_64fc(const Tav64f* src, Tav64fc* dst, int len);
+Status tavsConjPerm_64fc_I(Tav64fc* srcDst, int len);
+/* 16sc: the full spectrum of len values from the CCS layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjCcs_16sc(const Tav16s* src, Tav16sc* dst, int len);
+Status tavsConjCcs_16sc_I(Tav16sc* srcDst, int len);
+/* 32fc: the full spectrum of len values from the CCS layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjCcs_32fc(const Tav32f* src, Tav32fc* dst, int len);
+Status tavsConjCcs_32fc_I(Tav32fc* srcDst, int len);
+/* 64fc: the full spectrum of len values from the CCS layout in src; _I: the packed reals at the front of srcDst. */
+Status tavsConjCcs_64fc(const Tav64f* src, Tav64fc* dst, int len);
+Status tavsConjCcs_64fc_I(Tav64fc* srcDst, int len);
+/* 16s: product of two spectra in the Pack layout, 32-bit products scaled by shifts and saturated; a destination equal to a source runs the _I form. */
+Status tavsMulPack_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsMulPack_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* 32f: product of two spectra in the Pack layout; a destination equal to a source runs the _I form. */
+Status tavsMulPack_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+Status tavsMulPack_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* 64f: product of two spectra in the Pack layout; a destination equal to a source runs the _I form. */
+Status tavsMulPack_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+Status tavsMulPack_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* 16s: product of two spectra in the Perm layout, 32-bit products scaled by shifts and saturated; a destination equal to a source runs the _I form. */
+Status tavsMulPerm_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+Status tavsMulPerm_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
+/* 32f: product of two spectra in the Perm layout; a destination equal to a source runs the _I form. */
+Status tavsMulPerm_32f(const Tav32f* src1, const Tav32f* src2, Tav32f* dst, int len);
+Status tavsMulPerm_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* 64f: product of two spectra in the Perm layout; a destination equal to a source runs the _I form. */
+Status tavsMulPerm_64f(const Tav64f* src1, const Tav64f* src2, Tav64f* dst, int len);
+Status tavsMulPerm_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
+/* 32f: srcDst = src times the conjugate of srcDst, spectra in the Pack layout. */
+Status tavsMulPackConj_32f_I(const Tav32f* src, Tav32f* srcDst, int len);
+/* 64f: srcDst = src times the conjugate of srcDst, spectra in the Pack layout. */
+Status tavsMulPackConj_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
 
 /* ==== Elementary functions =============================================== */
 

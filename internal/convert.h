@@ -55,24 +55,36 @@ template <class... P> inline Status check_ptrs_ulen(int len, const P*... p)
     return StatusOk;
 }
 
-// Runs scalar(i) and vec(i) (W elements from i, destination 16-byte aligned)
-// over n elements. Short vectors and destinations that are not aligned to
-// their element size stay scalar; otherwise scalar steps bring the
-// destination to a 16-byte boundary first. Both paths give the same bits.
-template <size_t W, class D, class S, class V>
-inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec)
+// Runs scalar(i), vec(i) (W elements from i, destination 16-byte aligned)
+// and narrow(i) (W2 elements, W2 <= W, for what the wide steps leave) over n
+// elements. Short vectors and destinations that are not aligned to their
+// element size stay scalar; otherwise scalar steps bring the destination to
+// a 16-byte boundary first. All paths give the same bits.
+template <size_t W, size_t W2, class D, class S, class V, class V2>
+inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec, V2&& narrow)
 {
+    static_assert(W2 <= W);
     size_t i = 0;
     const uintptr_t addr = reinterpret_cast<uintptr_t>(dst);
-    if (n >= minVec && n >= W && addr % sizeof(D) == 0) {
+    if (n >= minVec && n >= W2 && addr % sizeof(D) == 0) {
         size_t head = ((16 - addr % 16) % 16) / sizeof(D);
         for (; i < head && i < n; ++i)
             scalar(i);
-        for (; i + W <= n; i += W)
+        for (; n - i >= W; i += W)
             vec(i);
+        if constexpr (W2 < W)
+            for (; n - i >= W2; i += W2)
+                narrow(i);
     }
     for (; i < n; ++i)
         scalar(i);
+}
+
+// The same with one vector width.
+template <size_t W, class D, class S, class V>
+inline void drive(const D* dst, size_t n, size_t minVec, S&& scalar, V&& vec)
+{
+    drive<W, W>(dst, n, minVec, scalar, vec, [](size_t) {});
 }
 
 // 2^-sf in F, built by halving or doubling 1.0 |sf| times so that every step

@@ -21,6 +21,9 @@ template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, cons
 // Four transforms of length R side by side: d holds R rows of four complex
 // values (64-byte aligned), column j of the rows being transform j.
 template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw);
+// The same in 32f with each row held as [re0 re1 re2 re3 im0 im1 im2 im3]:
+// the four transforms then run in SSE2 lanes without shuffles.
+template <bool Inverse> void radix4_rows4_soa(float* d, int64_t R, const float* tw);
 
 // The interleaved kernel split in two: its first pass (stage one with the
 // span-8 or span-16 stage, by the parity of the order of L) fused with the

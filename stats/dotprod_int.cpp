@@ -6,7 +6,10 @@
 
 #include <emmintrin.h>
 
+#include <type_traits>
+
 #include "internal/check.h"
+#include "internal/stats_dot.h"
 #include "internal/stats_lanes.h"
 #include "internal/stats_scale.h"
 
@@ -63,6 +66,23 @@ const int16_t* parts(const Tav16sc* p) { return reinterpret_cast<const int16_t*>
 int32_t to32(int64_t s, int sf) { return int32_t(scale_dot(s, sf, 31, INT32_MIN, INT32_MAX)); }
 int16_t to16(int64_t s, int sf) { return int16_t(scale_dot(s, sf, 15, INT16_MIN, INT16_MAX)); }
 
+// A dot product with a 16sc second vector: the exact 64-bit sums of the
+// parts (the first vector complex too, or real), each part stored through
+// out: as it is, as a float, or scaled and saturated.
+template <class S1, class D, class Out>
+Status dot_16sc_to(const S1* src1, const Tav16sc* src2, int len, D* dp, Out out)
+{
+    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
+    int64_t re, im;
+    if constexpr (std::is_same_v<S1, Tav16sc>)
+        dot_16sc(parts(src1), src2, len, false, &re, &im);
+    else
+        dot_16sc(src1, src2, len, true, &re, &im);
+    dp->re = out(re);
+    dp->im = out(im);
+    return StatusOk;
+}
+
 // 2^-sf with sf capped to -31..93, built directly on the exponent field.
 double exp_scale(int sf)
 {
@@ -84,57 +104,6 @@ int32_t round_sat32(double sum, int sf)
     return int32_t(r > INT32_MAX ? INT32_MAX : (r < INT32_MIN ? INT32_MIN : r));
 }
 
-__m128d wide_pair(const int32_t* p) { return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))); }
-
-// Real and imaginary double sums of a (real or complex 32-bit) times b
-// (complex 32-bit), each in the eight-lane shape. Products are rounded to
-// double; a complex term is (ar br - ai bi) and (ar bi + ai br).
-void dot_32sc(const int32_t* a, const int32_t* b, int64_t n, bool realA, double* re, double* im)
-{
-    auto at = [=](int64_t i, double* r, double* m) {
-        double br = b[2 * i], bi = b[2 * i + 1];
-        if (realA) {
-            *r = double(a[i]) * br;
-            *m = double(a[i]) * bi;
-        } else {
-            double ar = a[2 * i], ai = a[2 * i + 1];
-            *r = ar * br - ai * bi;
-            *m = ar * bi + ai * br;
-        }
-    };
-    auto pair = [=](int64_t i, __m128d* r, __m128d* m) {
-        __m128d b0 = wide_pair(b + 2 * i), b1 = wide_pair(b + 2 * i + 2);
-        __m128d br = _mm_unpacklo_pd(b0, b1), bi = _mm_unpackhi_pd(b0, b1);
-        if (realA) {
-            __m128d x = wide_pair(a + i);
-            *r = _mm_mul_pd(x, br);
-            *m = _mm_mul_pd(x, bi);
-        } else {
-            __m128d a0 = wide_pair(a + 2 * i), a1 = wide_pair(a + 2 * i + 2);
-            __m128d ar = _mm_unpacklo_pd(a0, a1), ai = _mm_unpackhi_pd(a0, a1);
-            *r = _mm_sub_pd(_mm_mul_pd(ar, br), _mm_mul_pd(ai, bi));
-            *m = _mm_add_pd(_mm_mul_pd(ar, bi), _mm_mul_pd(ai, br));
-        }
-    };
-    Lanes8 lr, li;
-    int64_t i = 0;
-    for (; i + 8 <= n; i += 8) {
-        __m128d r[4], m[4];
-        for (int k = 0; k < 4; ++k) pair(i + 2 * k, &r[k], &m[k]);
-        lr.add(r[0], r[1], r[2], r[3]);
-        li.add(m[0], m[1], m[2], m[3]);
-    }
-    double sr = lr.fold(), si = li.fold();
-    for (; i < n; ++i) {
-        double tr, ti;
-        at(i, &tr, &ti);
-        sr += tr;
-        si += ti;
-    }
-    *re = sr;
-    *im = si;
-}
-
 } // namespace
 
 // ---- 16-bit to 64-bit and to float ---------------------------------------------------------
@@ -146,21 +115,11 @@ extern "C" Status tavsDotProd_16s64s_body(const Tav16s* src1, const Tav16s* src2
 }
 extern "C" Status tavsDotProd_16sc64sc_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav64sc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = re;
-    dp->im = im;
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return v; });
 }
 extern "C" Status tavsDotProd_16s16sc64sc_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav64sc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = re;
-    dp->im = im;
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return v; });
 }
 extern "C" Status tavsDotProd_16s32f_body(const Tav16s* src1, const Tav16s* src2, int len, Tav32f* dp)
 {
@@ -170,21 +129,11 @@ extern "C" Status tavsDotProd_16s32f_body(const Tav16s* src1, const Tav16s* src2
 }
 extern "C" Status tavsDotProd_16sc32fc_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav32fc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = float(re);
-    dp->im = float(im);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return float(v); });
 }
 extern "C" Status tavsDotProd_16s16sc32fc_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav32fc* dp)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = float(re);
-    dp->im = float(im);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [](int64_t v) { return float(v); });
 }
 
 // ---- 16-bit, scaled ------------------------------------------------------------------------
@@ -204,42 +153,22 @@ extern "C" Status tavsDotProd_16s_Sfs_body(const Tav16s* src1, const Tav16s* src
 extern "C" Status tavsDotProd_16sc32sc_Sfs_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav32sc* dp,
                                                 int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = to32(re, scaleFactor);
-    dp->im = to32(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to32(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16sc_Sfs_body(const Tav16sc* src1, const Tav16sc* src2, int len, Tav16sc* dp,
                                             int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(parts(src1), src2, len, false, &re, &im);
-    dp->re = to16(re, scaleFactor);
-    dp->im = to16(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to16(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16s16sc32sc_Sfs_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav32sc* dp,
                                                    int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = to32(re, scaleFactor);
-    dp->im = to32(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to32(v, scaleFactor); });
 }
 extern "C" Status tavsDotProd_16s16sc_Sfs_body(const Tav16s* src1, const Tav16sc* src2, int len, Tav16sc* dp,
                                                int scaleFactor)
 {
-    if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    int64_t re, im;
-    dot_16sc(src1, src2, len, true, &re, &im);
-    dp->re = to16(re, scaleFactor);
-    dp->im = to16(im, scaleFactor);
-    return StatusOk;
+    return dot_16sc_to(src1, src2, len, dp, [=](int64_t v) { return to16(v, scaleFactor); });
 }
 // 16-bit times 32-bit: the products need 47 bits, so the 64-bit sum wraps
 // for very long extreme vectors; the wrap is done on unsigned arithmetic.
@@ -257,7 +186,7 @@ extern "C" Status tavsDotProd_16s32s32s_Sfs_body(const Tav16s* src1, const Tav32
 extern "C" Status tavsDotProd_32s_Sfs_body(const Tav32s* src1, const Tav32s* src2, int len, Tav32s* dp, int scaleFactor)
 {
     if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
-    double s = sum8(len, [=](int64_t i) { return _mm_mul_pd(wide_pair(src1 + i), wide_pair(src2 + i)); },
+    double s = sum8(len, [=](int64_t i) { return _mm_mul_pd(widen2(src1 + i), widen2(src2 + i)); },
                     [=](int64_t i) { return double(src1[i]) * double(src2[i]); });
     *dp = round_sat32(s, scaleFactor);
     return StatusOk;
@@ -267,7 +196,8 @@ extern "C" Status tavsDotProd_32sc_Sfs_body(const Tav32sc* src1, const Tav32sc* 
 {
     if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
     double re, im;
-    dot_32sc(reinterpret_cast<const int32_t*>(src1), reinterpret_cast<const int32_t*>(src2), len, false, &re, &im);
+    const auto* a = reinterpret_cast<const int32_t*>(src1);
+    dot_wide_cplx(WideCplx<int32_t>{a, reinterpret_cast<const int32_t*>(src2), false}, len, &re, &im);
     dp->re = round_sat32(re, scaleFactor);
     dp->im = round_sat32(im, scaleFactor);
     return StatusOk;
@@ -277,7 +207,7 @@ extern "C" Status tavsDotProd_32s32sc_Sfs_body(const Tav32s* src1, const Tav32sc
 {
     if (Status st = check_ptrs_len(len, src1, src2, dp)) return st;
     double re, im;
-    dot_32sc(src1, reinterpret_cast<const int32_t*>(src2), len, true, &re, &im);
+    dot_wide_cplx(WideCplx<int32_t>{src1, reinterpret_cast<const int32_t*>(src2), true}, len, &re, &im);
     dp->re = round_sat32(re, scaleFactor);
     dp->im = round_sat32(im, scaleFactor);
     return StatusOk;

@@ -159,56 +159,70 @@ template <bool Inv, class S> void merge_pass(Split<S> v, int64_t L, int64_t s, c
 
 // Four columns c .. c+3 of R rows of length M, each value times its column
 // twiddle, into R rows of four values in the work buffer; the column
-// transforms then run side by side on those rows.
-template <bool Inv> void gather(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* ct, float* w)
+// transforms then run side by side on those rows. One row at a time here;
+// the driver walks the rows.
+// In 32f the rows of the work buffer hold [re x4, im x4] (the form of
+// radix4_rows4_soa).
+template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
 {
-    for (int64_t r = 0; r < R; ++r) {
-        const float* row = v.p + 2 * (r * M + c);
-        _mm_store_ps(w + 8 * r, cmul<Inv>(_mm_loadu_ps(row), _mm_load_ps(ct + 8 * r)));
-        _mm_store_ps(w + 8 * r + 4, cmul<Inv>(_mm_loadu_ps(row + 4), _mm_load_ps(ct + 8 * r + 4)));
+    const float* row = v.p + 2 * (r * M + c);
+    const __m128 x01 = _mm_loadu_ps(row), x23 = _mm_loadu_ps(row + 4);
+    const __m128 w01 = _mm_load_ps(ct + 8 * r), w23 = _mm_load_ps(ct + 8 * r + 4);
+    const __m128 xr = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(2, 0, 2, 0)), xi = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(3, 1, 3, 1));
+    const __m128 wr = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(2, 0, 2, 0)), wi = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(3, 1, 3, 1));
+    // x * w, or x * conj(w) for the inverse.
+    if (Inv) {
+        _mm_store_ps(w + 8 * r, _mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
+        _mm_store_ps(w + 8 * r + 4, _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
+    } else {
+        _mm_store_ps(w + 8 * r, _mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
+        _mm_store_ps(w + 8 * r + 4, _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
     }
 }
-void scatter(Inter<float> v, int64_t R, int64_t M, int64_t c, const float* w)
+inline void scatter_row(Inter<float> v, int64_t q, int64_t M, int64_t c, const float* w)
 {
-    for (int64_t q = 0; q < R; ++q) {
-        float* row = v.p + 2 * (q * M + c);
-        _mm_storeu_ps(row, _mm_load_ps(w + 8 * q));
-        _mm_storeu_ps(row + 4, _mm_load_ps(w + 8 * q + 4));
+    float* row = v.p + 2 * (q * M + c);
+    const __m128 re = _mm_load_ps(w + 8 * q), im = _mm_load_ps(w + 8 * q + 4);
+    _mm_storeu_ps(row, _mm_unpacklo_ps(re, im));
+    _mm_storeu_ps(row + 4, _mm_unpackhi_ps(re, im));
+}
+template <bool Inv>
+inline void gather_row(Inter<double> v, int64_t r, int64_t M, int64_t c, const double* ct, double* w)
+{
+    const double* row = v.p + 2 * (r * M + c);
+    for (int j = 0; j < 4; ++j)
+        _mm_store_pd(w + 8 * r + 2 * j, cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
+}
+inline void scatter_row(Inter<double> v, int64_t q, int64_t M, int64_t c, const double* w)
+{
+    double* row = v.p + 2 * (q * M + c);
+    for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 8 * q + 2 * j));
+}
+// Split data: the gather puts re and im into the same rows, as [re x4,
+// im x4] in 32f and interleaved in 64f.
+template <class S> constexpr int64_t kImOff = sizeof(S) == 4 ? 4 : 1; // offset of im j from re j
+template <class S> constexpr int64_t kReStep = sizeof(S) == 4 ? 1 : 2; // from re j to re j+1
+template <bool Inv, class S> inline void gather_row(Split<S> v, int64_t r, int64_t M, int64_t c, const S* ct, S* w)
+{
+    for (int j = 0; j < 4; ++j) {
+        const int64_t i = r * M + c + j;
+        S* o = w + 8 * r + kReStep<S> * j;
+        cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], o[0], o[kImOff<S>]);
     }
 }
-template <bool Inv> void gather(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* ct, double* w)
+template <class S> inline void scatter_row(Split<S> v, int64_t q, int64_t M, int64_t c, const S* w)
 {
-    for (int64_t r = 0; r < R; ++r) {
-        const double* row = v.p + 2 * (r * M + c);
-        for (int j = 0; j < 4; ++j)
-            _mm_store_pd(w + 8 * r + 2 * j, cmul<Inv>(_mm_loadu_pd(row + 2 * j), _mm_load_pd(ct + 8 * r + 2 * j)));
+    for (int j = 0; j < 4; ++j) {
+        const int64_t i = q * M + c + j;
+        const S* o = w + 8 * q + kReStep<S> * j;
+        v.re[i] = o[0];
+        v.im[i] = o[kImOff<S>];
     }
 }
-void scatter(Inter<double> v, int64_t R, int64_t M, int64_t c, const double* w)
-{
-    for (int64_t q = 0; q < R; ++q) {
-        double* row = v.p + 2 * (q * M + c);
-        for (int j = 0; j < 4; ++j) _mm_storeu_pd(row + 2 * j, _mm_load_pd(w + 8 * q + 2 * j));
-    }
-}
-// Split data: the gather interleaves re and im into the same rows.
-template <bool Inv, class S> void gather(Split<S> v, int64_t R, int64_t M, int64_t c, const S* ct, S* w)
-{
-    for (int64_t r = 0; r < R; ++r)
-        for (int j = 0; j < 4; ++j) {
-            const int64_t i = r * M + c + j;
-            cmul1<Inv>(v.re[i], v.im[i], ct[8 * r + 2 * j], ct[8 * r + 2 * j + 1], w[8 * r + 2 * j], w[8 * r + 2 * j + 1]);
-        }
-}
-template <class S> void scatter(Split<S> v, int64_t R, int64_t M, int64_t c, const S* w)
-{
-    for (int64_t q = 0; q < R; ++q)
-        for (int j = 0; j < 4; ++j) {
-            const int64_t i = q * M + c + j;
-            v.re[i] = w[8 * q + 2 * j];
-            v.im[i] = w[8 * q + 2 * j + 1];
-        }
-}
+
+// The column transforms on the rows of the work buffer.
+template <bool Inv> inline void columns(float* w, int64_t R, const float* tw) { radix4_rows4_soa<Inv>(w, R, tw); }
+template <bool Inv> inline void columns(double* w, int64_t R, const double* tw) { radix4_rows4<double, Inv>(w, R, tw); }
 
 // ---- the large path -------------------------------------------------------------
 
@@ -251,10 +265,21 @@ template <class S, bool Inv, class V> struct Large {
         for (int64_t r = 0; r < R; ++r) row(v.at(r * M), m - F, level + 1);
         const S* cols = spec->levelColumns[level];
         const S* r4 = spec->levelRadixFour[level];
+        // The scatter of columns c .. c+3 and the gather of c+4 .. c+7 share
+        // one walk over the rows: both touch the same cache line of a row,
+        // which is then fetched once instead of twice.
+        for (int64_t r = 0; r < R; ++r) gather_row<Inv>(v, r, M, 0, cols, work);
         for (int64_t c = 0; c < M; c += 4) {
-            gather<Inv>(v, R, M, c, cols + (c / 4) * R * 8, work);
-            radix4_rows4<S, Inv>(work, R, r4);
-            scatter(v, R, M, c, work);
+            columns<Inv>(work, R, r4);
+            if (c + 4 < M) {
+                const S* next = cols + ((c + 4) / 4) * R * 8;
+                for (int64_t r = 0; r < R; ++r) {
+                    scatter_row(v, r, M, c, work);
+                    gather_row<Inv>(v, r, M, c + 4, next, work);
+                }
+            } else {
+                for (int64_t r = 0; r < R; ++r) scatter_row(v, r, M, c, work);
+            }
         }
     }
 };

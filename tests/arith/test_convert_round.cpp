@@ -2,7 +2,9 @@
 
 #include <cfenv>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <vector>
 
 #include "convert_check.h"
 #include "tavs.h"
@@ -56,6 +58,90 @@ TEST(ConvertRound, Float32ToSmallIntegers)
     check_f32<Tav8u>(tavsConvert_32f8u_Sfs, 256.0f);
     check_f32<Tav16s>(tavsConvert_32f16s_Sfs, 32768.0f);
     check_f32<Tav16u>(tavsConvert_32f16u_Sfs, 65536.0f);
+}
+
+// Values at the edges of the vector path's limiting: infinities, the largest
+// floats, the powers of two where the high half of a lane changes, values
+// just either side of every destination limit and of half, zeros and
+// subnormals. Every length and offset, the three modes, a few scales, and every
+// rounding direction (the reference rounds in the same direction).
+std::vector<float> edge_pool()
+{
+    const float inf = std::numeric_limits<float>::infinity(), big = std::numeric_limits<float>::max();
+    std::vector<float> v;
+    for (float m : {inf, big, 2147483648.0f, 2147483520.0f, 1e10f, 0.0f, 1e-45f, 1.1754942e-38f, 0.5f,
+                    0.49999997f, 1.5f, 2.5f}) {
+        v.push_back(m);
+        v.push_back(-m);
+    }
+    for (float lim :
+         {127.0f, 128.0f, 255.0f, 256.0f, 32767.0f, 32768.0f, 65535.0f, 65536.0f, 66048.0f, 33024.0f}) {
+        for (float d : {-1.0f, -0.75f, -0.5f, -0.25f, 0.0f, 0.25f, 0.5f, 0.75f, 1.0f}) {
+            v.push_back(lim + d);
+            v.push_back(-(lim + d));
+        }
+        v.push_back(std::nextafter(lim, 0.0f));
+        v.push_back(std::nextafter(lim, 2.0f * lim));
+        v.push_back(-std::nextafter(lim, 0.0f));
+        v.push_back(-std::nextafter(lim, 2.0f * lim));
+    }
+    // Each positive bit pattern from 0x4700FFFF to 0x4781FFFF in steps of
+    // 0x8000 crosses a high half the limiting treats differently.
+    for (uint32_t b = 0x4700FFFFu; b <= 0x4781FFFFu; b += 0x8000u) {
+        float f;
+        std::memcpy(&f, &b, 4);
+        v.push_back(f);
+        v.push_back(-f);
+    }
+    return v;
+}
+
+template <class D, class Fn> void check_f32_edges(Fn fn)
+{
+    const auto pool = edge_pool();
+    const int old = std::fegetround();
+    for (int dir : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+        for (int mode : {0, 1, 2}) {
+            for (int sf : {0, 1, -1}) {
+                auto call = [&](const void* s, void* d, int len) {
+                    std::fesetround(dir);
+                    const Status st = fn(static_cast<const Tav32f*>(s), static_cast<D*>(d), len, mode, sf);
+                    std::fesetround(old);
+                    return st;
+                };
+                auto ref = [&](float x) {
+                    std::fesetround(dir);
+                    const D r = ref_f32<D>(x, mode, sf);
+                    std::fesetround(old);
+                    return r;
+                };
+                // Three windows of the pool through every length and offset,
+                // then all of it through the vector path and, at an odd
+                // destination address, through the scalar path.
+                for (size_t w = 0; w < 3; ++w) {
+                    const size_t start = w * (pool.size() - 86) / 2;
+                    ct::sweep<Tav32f, D>(
+                        {pool.begin() + ptrdiff_t(start), pool.begin() + ptrdiff_t(start + 86)}, call, ref);
+                }
+                ct::bulk<Tav32f, D>(pool, call, ref);
+                std::vector<unsigned char> odd((pool.size() + 1) * sizeof(D));
+                ASSERT_EQ(call(pool.data(), odd.data() + 1, int(pool.size())), StatusOk);
+                for (size_t i = 0; i < pool.size(); ++i) {
+                    const D want = ref(pool[i]);
+                    ASSERT_EQ(std::memcmp(&want, odd.data() + 1 + i * sizeof(D), sizeof(D)), 0)
+                        << "element " << i << " mode " << mode << " sf " << sf;
+                }
+            }
+        }
+    }
+}
+
+TEST(ConvertRound, Float32ToSmallIntegersEdges)
+{
+    check_f32_edges<Tav8s>(tavsConvert_32f8s_Sfs);
+    check_f32_edges<Tav8u>(tavsConvert_32f8u_Sfs);
+    check_f32_edges<Tav16s>(tavsConvert_32f16s_Sfs);
+    check_f32_edges<Tav16u>(tavsConvert_32f16u_Sfs);
 }
 
 TEST(ConvertRound, DocumentedValues16s)

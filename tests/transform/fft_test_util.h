@@ -17,6 +17,21 @@ namespace ft {
 
 using cld = std::complex<long double>;
 
+// One FFT record kind with its five functions named as they stand. The
+// record tests of the floating and of the fixed-point kinds derive their
+// kind tables from it, each adding the types it needs.
+template <class Spec_> struct RecordKind {
+    using Spec = Spec_;
+    const char* name;
+    int32_t tag;
+    int limit;
+    Status (*getSize)(int, int, int, int*, int*, int*);
+    Status (*init)(Spec**, int, int, int, Tav8u*, Tav8u*);
+    Status (*initAlloc)(Spec**, int, int, int);
+    Status (*free)(Spec*);
+    Status (*bufSize)(const Spec*, int*);
+};
+
 // Reference transform in long double: iterative radix-2 with every twiddle
 // from cosl/sinl (one octant computed, the rest by symmetry), unscaled;
 // exponent sign - forward, + inverse. Products are written out so no

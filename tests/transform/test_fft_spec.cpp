@@ -14,18 +14,9 @@
 
 namespace {
 
-// One floating kind with its five functions named as they stand.
-template <class Spec_, class S_> struct FloatKind {
-    using Spec = Spec_;
+// A floating kind: the record kind with its part type.
+template <class Spec, class S_> struct FloatKind : ft::RecordKind<Spec> {
     using S = S_;
-    const char* name;
-    int32_t tag;
-    int limit;
-    Status (*getSize)(int, int, int, int*, int*, int*);
-    Status (*init)(Spec**, int, int, int, Tav8u*, Tav8u*);
-    Status (*initAlloc)(Spec**, int, int, int);
-    Status (*free)(Spec*);
-    Status (*bufSize)(const Spec*, int*);
 };
 
 const FloatKind<FFTSpec_C_32fc, float> k32fc{"C_32fc", 4, 27, tavsFFTGetSize_C_32fc, tavsFFTInit_C_32fc,

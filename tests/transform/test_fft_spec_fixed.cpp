@@ -8,6 +8,7 @@
 
 #include "alloc_fault.h"
 #include "fft_sizes.h"
+#include "fft_test_util.h"
 #include "internal/fft.h"
 #include "tavs.h"
 #include "test_util.h"
@@ -18,17 +19,9 @@ using tavs::fft::FloatSpec;
 using tavs::fft::SmallFixedSpec;
 using tavs::fft::WideFixedSpec;
 
-template <class Spec_, class Hdr_> struct FixedKind {
-    using Spec = Spec_;
+// A fixed-point kind: the record kind with its header type.
+template <class Spec, class Hdr_> struct FixedKind : ft::RecordKind<Spec> {
     using Hdr = Hdr_;
-    const char* name;
-    int32_t tag;
-    int limit;
-    Status (*getSize)(int, int, int, int*, int*, int*);
-    Status (*init)(Spec**, int, int, int, Tav8u*, Tav8u*);
-    Status (*initAlloc)(Spec**, int, int, int);
-    Status (*free)(Spec*);
-    Status (*bufSize)(const Spec*, int*);
 };
 
 const FixedKind<FFTSpec_C_16sc, SmallFixedSpec> kC16sc{"C_16sc", 1, 27, tavsFFTGetSize_C_16sc, tavsFFTInit_C_16sc,

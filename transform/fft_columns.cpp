@@ -1,0 +1,221 @@
+// The four-column form of the radix-4 kernel: the column transforms of the
+// two-factor step, four transforms of length R side by side on rows of the
+// work buffer, every twiddle (which depends on the row only) serving all
+// four.
+#include "internal/body.h"
+#include "internal/fft_kernels.h"
+#include "internal/fft_simd.h"
+
+namespace tavs::fft {
+
+using namespace simd;
+
+namespace {
+
+// The radix-4 kernel on R rows of four complex values: four transforms of
+// length R side by side, every step the same as in the one-column kernel,
+// with each twiddle (which depends on the row only) serving all four.
+template <bool Inv> void rows4_32fc(float* d, int64_t R, const float* tw)
+{
+    auto ld = [d](int64_t r, int h) { return _mm_load_ps(d + 8 * r + 4 * h); };
+    auto st = [d](int64_t r, int h, __m128 v) { _mm_store_ps(d + 8 * r + 4 * h, v); };
+    auto bcast = [](const float* t) {
+        const __m128 w = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(t)));
+        return prep<Inv>(_mm_movelh_ps(w, w));
+    };
+    for (int64_t i = 0; i < R; i += 4)
+        for (int h = 0; h < 2; ++h) {
+            __m128 x0, x1, x2, x3;
+            bfly4<Inv>(ld(i, h), ld(i + 1, h), ld(i + 2, h), ld(i + 3, h), x0, x1, x2, x3);
+            st(i, h, x0);
+            st(i + 1, h, x1);
+            st(i + 2, h, x2);
+            st(i + 3, h, x3);
+        }
+    int64_t span = 16;
+    if (R & 0xAAAAAAAAAAAAAAAAll) {
+        const float c = 0.70710677f;
+        const float w1v[2] = {c, -c}, w3v[2] = {-c, -c};
+        const Tw32 w1 = bcast(w1v), w3 = bcast(w3v);
+        for (int64_t i = 0; i < R; i += 8)
+            for (int h = 0; h < 2; ++h)
+                for (int k = 0; k < 4; ++k) {
+                    const __m128 e = ld(i + k, h);
+                    __m128 o = ld(i + 4 + k, h);
+                    if (k == 1) o = mul(o, w1);
+                    else if (k == 2) o = rot<Inv>(o);
+                    else if (k == 3) o = mul(o, w3);
+                    st(i + k, h, _mm_add_ps(e, o));
+                    st(i + 4 + k, h, _mm_sub_ps(e, o));
+                }
+        span = 32;
+    }
+    for (; span <= R; span *= 4) {
+        const int64_t q = span / 4, stride = 6 * (R / span);
+        for (int64_t k = 0; k < q; ++k) {
+            const float* t = tw + k * stride;
+            const Tw32 w1 = bcast(t), w2 = bcast(t + 2), w3 = bcast(t + 4);
+            for (int64_t b = k; b < R; b += span)
+                for (int h = 0; h < 2; ++h) {
+                    __m128 x0, x1, x2, x3;
+                    if (k == 0) bfly4<Inv>(ld(b, h), ld(b + q, h), ld(b + 2 * q, h), ld(b + 3 * q, h), x0, x1, x2, x3);
+                    else
+                        bfly4<Inv>(ld(b, h), mul(ld(b + q, h), w2), mul(ld(b + 2 * q, h), w1), mul(ld(b + 3 * q, h), w3),
+                                   x0, x1, x2, x3);
+                    st(b, h, x0);
+                    st(b + q, h, x1);
+                    st(b + 2 * q, h, x2);
+                    st(b + 3 * q, h, x3);
+                }
+        }
+    }
+}
+
+template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
+{
+    auto ld = [d](int64_t r, int h) { return _mm_load_pd(d + 8 * r + 2 * h); };
+    auto st = [d](int64_t r, int h, __m128d v) { _mm_store_pd(d + 8 * r + 2 * h, v); };
+    for (int64_t i = 0; i < R; i += 4)
+        for (int h = 0; h < 4; ++h) {
+            __m128d x0, x1, x2, x3;
+            bfly4<Inv>(ld(i, h), ld(i + 1, h), ld(i + 2, h), ld(i + 3, h), x0, x1, x2, x3);
+            st(i, h, x0);
+            st(i + 1, h, x1);
+            st(i + 2, h, x2);
+            st(i + 3, h, x3);
+        }
+    int64_t span = 16;
+    if (R & 0xAAAAAAAAAAAAAAAAll) {
+        const double c = 0.70710678118654752;
+        const Tw64 w1 = prep<Inv>(_mm_setr_pd(c, -c)), w3 = prep<Inv>(_mm_setr_pd(-c, -c));
+        for (int64_t i = 0; i < R; i += 8)
+            for (int h = 0; h < 4; ++h)
+                for (int k = 0; k < 4; ++k) {
+                    const __m128d e = ld(i + k, h);
+                    __m128d o = ld(i + 4 + k, h);
+                    if (k == 1) o = mul(o, w1);
+                    else if (k == 2) o = rot<Inv>(o);
+                    else if (k == 3) o = mul(o, w3);
+                    st(i + k, h, _mm_add_pd(e, o));
+                    st(i + 4 + k, h, _mm_sub_pd(e, o));
+                }
+        span = 32;
+    }
+    for (; span <= R; span *= 4) {
+        const int64_t q = span / 4, stride = 6 * (R / span);
+        for (int64_t k = 0; k < q; ++k) {
+            const double* t = tw + k * stride;
+            const Tw64 w1 = prep<Inv>(_mm_load_pd(t)), w2 = prep<Inv>(_mm_load_pd(t + 2)), w3 = prep<Inv>(_mm_load_pd(t + 4));
+            for (int64_t b = k; b < R; b += span)
+                for (int h = 0; h < 4; ++h) {
+                    __m128d x0, x1, x2, x3;
+                    if (k == 0) bfly4<Inv>(ld(b, h), ld(b + q, h), ld(b + 2 * q, h), ld(b + 3 * q, h), x0, x1, x2, x3);
+                    else
+                        bfly4<Inv>(ld(b, h), mul(ld(b + q, h), w2), mul(ld(b + 2 * q, h), w1), mul(ld(b + 3 * q, h), w3),
+                                   x0, x1, x2, x3);
+                    st(b, h, x0);
+                    st(b + q, h, x1);
+                    st(b + 2 * q, h, x2);
+                    st(b + 3 * q, h, x3);
+                }
+        }
+    }
+}
+
+// The radix-4 butterfly on four lanes of split values: (a, b, c, d) with b
+// from the second quarter, as bfly4 does on interleaved values.
+struct Soa {
+    __m128 r, i;
+};
+template <bool Inv> inline void bfly4_soa(Soa a, Soa b, Soa c, Soa d, Soa& x0, Soa& x1, Soa& x2, Soa& x3)
+{
+    const Soa t0{_mm_add_ps(a.r, b.r), _mm_add_ps(a.i, b.i)}, t1{_mm_sub_ps(a.r, b.r), _mm_sub_ps(a.i, b.i)};
+    const Soa t2{_mm_add_ps(c.r, d.r), _mm_add_ps(c.i, d.i)}, t3{_mm_sub_ps(c.r, d.r), _mm_sub_ps(c.i, d.i)};
+    x0 = {_mm_add_ps(t0.r, t2.r), _mm_add_ps(t0.i, t2.i)};
+    x2 = {_mm_sub_ps(t0.r, t2.r), _mm_sub_ps(t0.i, t2.i)};
+    // t3 rotated by -i (forward) or +i (inverse), added and subtracted.
+    if (Inv) {
+        x1 = {_mm_sub_ps(t1.r, t3.i), _mm_add_ps(t1.i, t3.r)};
+        x3 = {_mm_add_ps(t1.r, t3.i), _mm_sub_ps(t1.i, t3.r)};
+    } else {
+        x1 = {_mm_add_ps(t1.r, t3.i), _mm_sub_ps(t1.i, t3.r)};
+        x3 = {_mm_sub_ps(t1.r, t3.i), _mm_add_ps(t1.i, t3.r)};
+    }
+}
+// x * w (x * conj(w) inverse) with w = (wr, wi) in every lane.
+template <bool Inv> inline Soa mul_soa(Soa x, __m128 wr, __m128 wi)
+{
+    if (Inv) return {_mm_add_ps(_mm_mul_ps(x.r, wr), _mm_mul_ps(x.i, wi)), _mm_sub_ps(_mm_mul_ps(x.i, wr), _mm_mul_ps(x.r, wi))};
+    return {_mm_sub_ps(_mm_mul_ps(x.r, wr), _mm_mul_ps(x.i, wi)), _mm_add_ps(_mm_mul_ps(x.r, wi), _mm_mul_ps(x.i, wr))};
+}
+
+// rows4_32fc on rows in the [re x4, im x4] form: the same butterflies, the
+// rotations by -i or +i become a choice of operands.
+template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
+{
+    auto ld = [d](int64_t r) { return Soa{_mm_load_ps(d + 8 * r), _mm_load_ps(d + 8 * r + 4)}; };
+    auto st = [d](int64_t r, Soa v) {
+        _mm_store_ps(d + 8 * r, v.r);
+        _mm_store_ps(d + 8 * r + 4, v.i);
+    };
+    for (int64_t i = 0; i < R; i += 4) {
+        Soa x0, x1, x2, x3;
+        bfly4_soa<Inv>(ld(i), ld(i + 1), ld(i + 2), ld(i + 3), x0, x1, x2, x3);
+        st(i, x0);
+        st(i + 1, x1);
+        st(i + 2, x2);
+        st(i + 3, x3);
+    }
+    int64_t span = 16;
+    if (R & 0xAAAAAAAAAAAAAAAAll) {
+        const __m128 c = _mm_set1_ps(0.70710677f), mc = _mm_set1_ps(-0.70710677f), neg = _mm_set1_ps(-0.0f);
+        for (int64_t i = 0; i < R; i += 8)
+            for (int k = 0; k < 4; ++k) {
+                const Soa e = ld(i + k);
+                Soa o = ld(i + 4 + k);
+                if (k == 1) o = mul_soa<Inv>(o, c, mc);
+                else if (k == 2) o = Inv ? Soa{_mm_xor_ps(o.i, neg), o.r} : Soa{o.i, _mm_xor_ps(o.r, neg)};
+                else if (k == 3) o = mul_soa<Inv>(o, mc, mc);
+                st(i + k, {_mm_add_ps(e.r, o.r), _mm_add_ps(e.i, o.i)});
+                st(i + 4 + k, {_mm_sub_ps(e.r, o.r), _mm_sub_ps(e.i, o.i)});
+            }
+        span = 32;
+    }
+    for (; span <= R; span *= 4) {
+        const int64_t q = span / 4, stride = 6 * (R / span);
+        for (int64_t b = 0; b < R; b += span) {
+            Soa x0, x1, x2, x3;
+            bfly4_soa<Inv>(ld(b), ld(b + q), ld(b + 2 * q), ld(b + 3 * q), x0, x1, x2, x3);
+            st(b, x0);
+            st(b + q, x1);
+            st(b + 2 * q, x2);
+            st(b + 3 * q, x3);
+        }
+        for (int64_t k = 1; k < q; ++k) {
+            const float* t = tw + k * stride;
+            const __m128 w1r = _mm_set1_ps(t[0]), w1i = _mm_set1_ps(t[1]);
+            const __m128 w2r = _mm_set1_ps(t[2]), w2i = _mm_set1_ps(t[3]);
+            const __m128 w3r = _mm_set1_ps(t[4]), w3i = _mm_set1_ps(t[5]);
+            for (int64_t b = k; b < R; b += span) {
+                Soa x0, x1, x2, x3;
+                bfly4_soa<Inv>(ld(b), mul_soa<Inv>(ld(b + q), w2r, w2i), mul_soa<Inv>(ld(b + 2 * q), w1r, w1i),
+                               mul_soa<Inv>(ld(b + 3 * q), w3r, w3i), x0, x1, x2, x3);
+                st(b, x0);
+                st(b + q, x1);
+                st(b + 2 * q, x2);
+                st(b + 3 * q, x3);
+            }
+        }
+    }
+}
+
+} // namespace
+
+template <> void radix4_rows4<float, false>(float* d, int64_t R, const float* tw) { rows4_32fc<false>(d, R, tw); }
+template <> void radix4_rows4<float, true>(float* d, int64_t R, const float* tw) { rows4_32fc<true>(d, R, tw); }
+template <> void radix4_rows4<double, false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
+template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }
+template <> void radix4_rows4_soa<true>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<true>(d, R, tw); }
+template <> void radix4_rows4<double, true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
+
+} // namespace tavs::fft
