@@ -1247,6 +1247,598 @@ Status tavsNormalize_16sc_Sfs(const Tav16sc* src, Tav16sc* dst, int len, Tav16sc
 /* ==== Filtering ========================================================== */
 
 /* @@FIR@@ (single-rate FIR filters) */
+/* FIR filter records, one kind per taps/data pair. Taps are given in natural
+ * order (y[k] = sum of taps[i] * x[k-i]); delay lines at Init, Get and Set are
+ * newest first (pDlyLine[0] is x[-1]). The block comes from the caller (Init,
+ * sized by GetStateSize) or from InitAlloc, which Free releases. Long filters
+ * run block calls through the FFT (overlap-save). */
+typedef struct FIRState_32f FIRState_32f;
+typedef struct FIRState_32fc FIRState_32fc;
+typedef struct FIRState32f_16s FIRState32f_16s;
+typedef struct FIRState32fc_16sc FIRState32fc_16sc;
+typedef struct FIRState32s_16s FIRState32s_16s;
+typedef struct FIRState32sc_16sc FIRState32sc_16sc;
+typedef struct FIRState_64f FIRState_64f;
+typedef struct FIRState_64fc FIRState_64fc;
+typedef struct FIRState64f_32f FIRState64f_32f;
+typedef struct FIRState64fc_32fc FIRState64fc_32fc;
+typedef struct FIRState64f_32s FIRState64f_32s;
+typedef struct FIRState_32s FIRState_32s;
+typedef struct FIRState64fc_32sc FIRState64fc_32sc;
+typedef struct FIRState64f_16s FIRState64f_16s;
+typedef struct FIRState64fc_16sc FIRState64fc_16sc;
+typedef struct FIRState_16s FIRState_16s;
+/* SR specification blocks: the caller's block, aligned up to 64 bytes inside
+ * at every use; tavsFIRSR_16s and tavsFIRSR_16sc take the 32f and 32fc specs. */
+typedef struct FIRSRSpec_32f FIRSRSpec_32f;
+typedef struct FIRSRSpec_32fc FIRSRSpec_32fc;
+typedef struct FIRSRSpec_64f FIRSRSpec_64f;
+typedef struct FIRSRSpec_64fc FIRSRSpec_64fc;
+
+
+/* ---- FIRState_32f: 32f taps over 32f data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_32f(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit_32f(FIRState_32f** ppState, const Tav32f* pTaps, int tapsLen, const Tav32f* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_32f(FIRState_32f** ppState, const Tav32f* pTaps, int tapsLen, const Tav32f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_32f(FIRState_32f* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps_32f(const FIRState_32f* pState, Tav32f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps_32f(const Tav32f* pTaps, FIRState_32f* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine_32f(const FIRState_32f* pState, Tav32f* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine_32f(FIRState_32f* pState, const Tav32f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR_32f(const Tav32f* pSrc, Tav32f* pDst, int len, FIRState_32f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_32f_I(Tav32f* pSrcDst, int len, FIRState_32f* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne_32f(Tav32f src, Tav32f* pDstVal, FIRState_32f* pState);
+
+/* ---- FIRState_32fc: 32fc taps over 32fc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_32fc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit_32fc(FIRState_32fc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav32fc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_32fc(FIRState_32fc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav32fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_32fc(FIRState_32fc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps_32fc(const FIRState_32fc* pState, Tav32fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps_32fc(const Tav32fc* pTaps, FIRState_32fc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine_32fc(const FIRState_32fc* pState, Tav32fc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine_32fc(FIRState_32fc* pState, const Tav32fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, FIRState_32fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_32fc_I(Tav32fc* pSrcDst, int len, FIRState_32fc* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne_32fc(Tav32fc src, Tav32fc* pDstVal, FIRState_32fc* pState);
+
+/* ---- FIRState32f_16s: 32f taps over 16s data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32f_16s(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit32f_16s(FIRState32f_16s** ppState, const Tav32f* pTaps, int tapsLen, const Tav16s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32f_16s(FIRState32f_16s** ppState, const Tav32f* pTaps, int tapsLen, const Tav16s* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree32f_16s(FIRState32f_16s* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps32f_16s(const FIRState32f_16s* pState, Tav32f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps32f_16s(const Tav32f* pTaps, FIRState32f_16s* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine32f_16s(const FIRState32f_16s* pState, Tav16s* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine32f_16s(FIRState32f_16s* pState, const Tav16s* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR32f_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, FIRState32f_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32f_16s_ISfs(Tav16s* pSrcDst, int len, FIRState32f_16s* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne32f_16s_Sfs(Tav16s src, Tav16s* pDstVal, FIRState32f_16s* pState, int scaleFactor);
+
+/* ---- FIRState32fc_16sc: 32fc taps over 16sc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32fc_16sc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit32fc_16sc(FIRState32fc_16sc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav16sc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32fc_16sc(FIRState32fc_16sc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav16sc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree32fc_16sc(FIRState32fc_16sc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps32fc_16sc(const FIRState32fc_16sc* pState, Tav32fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps32fc_16sc(const Tav32fc* pTaps, FIRState32fc_16sc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine32fc_16sc(const FIRState32fc_16sc* pState, Tav16sc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine32fc_16sc(FIRState32fc_16sc* pState, const Tav16sc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR32fc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, FIRState32fc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32fc_16sc_ISfs(Tav16sc* pSrcDst, int len, FIRState32fc_16sc* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne32fc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, FIRState32fc_16sc* pState, int scaleFactor);
+
+/* ---- FIRState_64f: 64f taps over 64f data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_64f(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit_64f(FIRState_64f** ppState, const Tav64f* pTaps, int tapsLen, const Tav64f* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_64f(FIRState_64f** ppState, const Tav64f* pTaps, int tapsLen, const Tav64f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_64f(FIRState_64f* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps_64f(const FIRState_64f* pState, Tav64f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps_64f(const Tav64f* pTaps, FIRState_64f* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine_64f(const FIRState_64f* pState, Tav64f* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine_64f(FIRState_64f* pState, const Tav64f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR_64f(const Tav64f* pSrc, Tav64f* pDst, int len, FIRState_64f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_64f_I(Tav64f* pSrcDst, int len, FIRState_64f* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne_64f(Tav64f src, Tav64f* pDstVal, FIRState_64f* pState);
+
+/* ---- FIRState_64fc: 64fc taps over 64fc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_64fc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit_64fc(FIRState_64fc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav64fc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_64fc(FIRState_64fc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav64fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_64fc(FIRState_64fc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps_64fc(const FIRState_64fc* pState, Tav64fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps_64fc(const Tav64fc* pTaps, FIRState_64fc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine_64fc(const FIRState_64fc* pState, Tav64fc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine_64fc(FIRState_64fc* pState, const Tav64fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR_64fc(const Tav64fc* pSrc, Tav64fc* pDst, int len, FIRState_64fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_64fc_I(Tav64fc* pSrcDst, int len, FIRState_64fc* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne_64fc(Tav64fc src, Tav64fc* pDstVal, FIRState_64fc* pState);
+
+/* ---- FIRState64f_32f: 64f taps over 32f data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64f_32f(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64f_32f(FIRState64f_32f** ppState, const Tav64f* pTaps, int tapsLen, const Tav32f* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64f_32f(FIRState64f_32f** ppState, const Tav64f* pTaps, int tapsLen, const Tav32f* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64f_32f(FIRState64f_32f* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64f_32f(const FIRState64f_32f* pState, Tav64f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64f_32f(const Tav64f* pTaps, FIRState64f_32f* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64f_32f(const FIRState64f_32f* pState, Tav32f* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64f_32f(FIRState64f_32f* pState, const Tav32f* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR64f_32f(const Tav32f* pSrc, Tav32f* pDst, int len, FIRState64f_32f* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_32f_I(Tav32f* pSrcDst, int len, FIRState64f_32f* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne64f_32f(Tav32f src, Tav32f* pDstVal, FIRState64f_32f* pState);
+
+/* ---- FIRState64fc_32fc: 64fc taps over 32fc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64fc_32fc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64fc_32fc(FIRState64fc_32fc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav32fc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64fc_32fc(FIRState64fc_32fc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav32fc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64fc_32fc(FIRState64fc_32fc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64fc_32fc(const FIRState64fc_32fc* pState, Tav64fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64fc_32fc(const Tav64fc* pTaps, FIRState64fc_32fc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64fc_32fc(const FIRState64fc_32fc* pState, Tav32fc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64fc_32fc(FIRState64fc_32fc* pState, const Tav32fc* pDlyLine);
+/* Filters len samples through the record, carrying its delay line on. */
+Status tavsFIR64fc_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, FIRState64fc_32fc* pState);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_32fc_I(Tav32fc* pSrcDst, int len, FIRState64fc_32fc* pState);
+/* Filters one sample through the record. */
+Status tavsFIROne64fc_32fc(Tav32fc src, Tav32fc* pDstVal, FIRState64fc_32fc* pState);
+
+/* ---- FIRState64f_32s: 64f taps over 32s data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64f_32s(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64f_32s(FIRState64f_32s** ppState, const Tav64f* pTaps, int tapsLen, const Tav32s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64f_32s(FIRState64f_32s** ppState, const Tav64f* pTaps, int tapsLen, const Tav32s* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64f_32s(FIRState64f_32s* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64f_32s(const FIRState64f_32s* pState, Tav64f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64f_32s(const Tav64f* pTaps, FIRState64f_32s* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64f_32s(const FIRState64f_32s* pState, Tav32s* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64f_32s(FIRState64f_32s* pState, const Tav32s* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR64f_32s_Sfs(const Tav32s* pSrc, Tav32s* pDst, int len, FIRState64f_32s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_32s_ISfs(Tav32s* pSrcDst, int len, FIRState64f_32s* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne64f_32s_Sfs(Tav32s src, Tav32s* pDstVal, FIRState64f_32s* pState, int scaleFactor);
+
+/* ---- FIRState64fc_32sc: 64fc taps over 32sc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64fc_32sc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64fc_32sc(FIRState64fc_32sc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav32sc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64fc_32sc(FIRState64fc_32sc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav32sc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64fc_32sc(FIRState64fc_32sc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64fc_32sc(const FIRState64fc_32sc* pState, Tav64fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64fc_32sc(const Tav64fc* pTaps, FIRState64fc_32sc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64fc_32sc(const FIRState64fc_32sc* pState, Tav32sc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64fc_32sc(FIRState64fc_32sc* pState, const Tav32sc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR64fc_32sc_Sfs(const Tav32sc* pSrc, Tav32sc* pDst, int len, FIRState64fc_32sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_32sc_ISfs(Tav32sc* pSrcDst, int len, FIRState64fc_32sc* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne64fc_32sc_Sfs(Tav32sc src, Tav32sc* pDstVal, FIRState64fc_32sc* pState, int scaleFactor);
+
+/* ---- FIRState64f_16s: 64f taps over 16s data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64f_16s(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64f_16s(FIRState64f_16s** ppState, const Tav64f* pTaps, int tapsLen, const Tav16s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64f_16s(FIRState64f_16s** ppState, const Tav64f* pTaps, int tapsLen, const Tav16s* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64f_16s(FIRState64f_16s* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64f_16s(const FIRState64f_16s* pState, Tav64f* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64f_16s(const Tav64f* pTaps, FIRState64f_16s* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64f_16s(const FIRState64f_16s* pState, Tav16s* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64f_16s(FIRState64f_16s* pState, const Tav16s* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR64f_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, FIRState64f_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_16s_ISfs(Tav16s* pSrcDst, int len, FIRState64f_16s* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne64f_16s_Sfs(Tav16s src, Tav16s* pDstVal, FIRState64f_16s* pState, int scaleFactor);
+
+/* ---- FIRState64fc_16sc: 64fc taps over 16sc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize64fc_16sc(int tapsLen, int* pBufferSize);
+/* Lays a record in pBuffer: taps, the delay line (newest first; null gives zeros) and, for long filters, the FFT. */
+Status tavsFIRInit64fc_16sc(FIRState64fc_16sc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav16sc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc64fc_16sc(FIRState64fc_16sc** ppState, const Tav64fc* pTaps, int tapsLen, const Tav16sc* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree64fc_16sc(FIRState64fc_16sc* pState);
+/* Copies the tapsLen taps out in the order Init took them. */
+Status tavsFIRGetTaps64fc_16sc(const FIRState64fc_16sc* pState, Tav64fc* pTaps);
+/* Stores new taps (and their transform); the delay line is kept. */
+Status tavsFIRSetTaps64fc_16sc(const Tav64fc* pTaps, FIRState64fc_16sc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine64fc_16sc(const FIRState64fc_16sc* pState, Tav16sc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine64fc_16sc(FIRState64fc_16sc* pState, const Tav16sc* pDlyLine);
+/* Filters len samples; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR64fc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, FIRState64fc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_16sc_ISfs(Tav16sc* pSrcDst, int len, FIRState64fc_16sc* pState, int scaleFactor);
+/* Filters one sample; the output scaled and rounded as the block form. */
+Status tavsFIROne64fc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, FIRState64fc_16sc* pState, int scaleFactor);
+
+/* ---- FIRState_32s: 32s taps (held as 64f) over 32s data ---- */
+/* Bytes a record of tapsLen 32s taps needs; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_32s(int tapsLen, int* pBufferSize);
+/* Lays a record of 32s taps, widened to 64f, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit_32s(FIRState_32s** ppState, const Tav32s* pTaps, int tapsLen, const Tav32s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_32s(FIRState_32s** ppState, const Tav32s* pTaps, int tapsLen, const Tav32s* pDlyLine);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_32s(FIRState_32s* pState);
+/* Copies the taps out as 32s, rounded to nearest even and limited. */
+Status tavsFIRGetTaps_32s(const FIRState_32s* pState, Tav32s* pTaps);
+/* Stores new 32s taps; the delay line is kept. */
+Status tavsFIRSetTaps_32s(const Tav32s* pTaps, FIRState_32s* pState);
+/* Filters len samples in 64f; each output times 2^-scaleFactor, rounded to nearest even, limited. */
+Status tavsFIR_32s_Sfs(const Tav32s* pSrc, Tav32s* pDst, int len, FIRState_32s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_32s_ISfs(Tav32s* pSrcDst, int len, FIRState_32s* pState, int scaleFactor);
+/* Filters one sample; the same function as tavsFIROne64f_32s_Sfs. */
+Status tavsFIROne_32s_Sfs(Tav32s src, Tav32s* pDstVal, FIRState_32s* pState, int scaleFactor);
+
+/* ---- FIRState_16s: 16s taps times 2^tapsFactor over 16s data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize_16s(int tapsLen, int* pBufferSize);
+/* Lays a record of 16-bit taps times 2^tapsFactor, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit_16s(FIRState_16s** ppState, const Tav16s* pTaps, int tapsLen, int tapsFactor, const Tav16s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc_16s(FIRState_16s** ppState, const Tav16s* pTaps, int tapsLen, int tapsFactor, const Tav16s* pDlyLine);
+/* Copies the held 16-bit tap values out in caller order, and their power of two. */
+Status tavsFIRGetTaps_16s(const FIRState_16s* pState, Tav16s* pTaps, int* pTapsFactor);
+/* Stores new taps times 2^tapsFactor as 16-bit values and a power of two; the delay line is kept. */
+Status tavsFIRSetTaps_16s(const Tav16s* pTaps, FIRState_16s* pState, int tapsFactor);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree_16s(FIRState_16s* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine_16s(const FIRState_16s* pState, Tav16s* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine_16s(FIRState_16s* pState, const Tav16s* pDlyLine);
+/* Filters len samples with 32-bit sums; shifted by tapsFactor - scaleFactor, rounded, limited. */
+Status tavsFIR_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, FIRState_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_16s_ISfs(Tav16s* pSrcDst, int len, FIRState_16s* pState, int scaleFactor);
+/* Filters one sample, scaled and rounded as the block form. */
+Status tavsFIROne_16s_Sfs(Tav16s src, Tav16s* pDstVal, FIRState_16s* pState, int scaleFactor);
+
+/* ---- FIRState32s_16s: 32s taps held as 16s values and a power of two, over 16s data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32s_16s(int tapsLen, int* pBufferSize);
+/* Lays a record of 16-bit tap values and a power of two chosen from the taps, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit32s_16s(FIRState32s_16s** ppState, const Tav32s* pTaps, int tapsLen, int tapsFactor, const Tav16s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32s_16s(FIRState32s_16s** ppState, const Tav32s* pTaps, int tapsLen, int tapsFactor, const Tav16s* pDlyLine);
+/* Copies the held 16-bit tap values out in caller order, and their power of two. */
+Status tavsFIRGetTaps32s_16s(const FIRState32s_16s* pState, Tav32s* pTaps, int* pTapsFactor);
+/* Stores new taps times 2^tapsFactor as 16-bit values and a power of two; the delay line is kept. */
+Status tavsFIRSetTaps32s_16s(const Tav32s* pTaps, FIRState32s_16s* pState, int tapsFactor);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree32s_16s(FIRState32s_16s* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine32s_16s(const FIRState32s_16s* pState, Tav16s* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine32s_16s(FIRState32s_16s* pState, const Tav16s* pDlyLine);
+/* Filters len samples with 32-bit sums; shifted by tapsFactor - scaleFactor, rounded, limited. */
+Status tavsFIR32s_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, FIRState32s_16s* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32s_16s_ISfs(Tav16s* pSrcDst, int len, FIRState32s_16s* pState, int scaleFactor);
+/* Filters one sample, scaled and rounded as the block form. */
+Status tavsFIROne32s_16s_Sfs(Tav16s src, Tav16s* pDstVal, FIRState32s_16s* pState, int scaleFactor);
+
+/* ---- FIRState32s_16s from 32f taps ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32s_16s32f(int tapsLen, int* pBufferSize);
+/* Lays a record of 16-bit tap values and a power of two chosen from the taps, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit32s_16s32f(FIRState32s_16s** ppState, const Tav32f* pTaps, int tapsLen, const Tav16s* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32s_16s32f(FIRState32s_16s** ppState, const Tav32f* pTaps, int tapsLen, const Tav16s* pDlyLine);
+/* Copies the taps out as held value times 2^tapsFactor. */
+Status tavsFIRGetTaps32s_16s32f(const FIRState32s_16s* pState, Tav32f* pTaps);
+/* Stores new taps scaled to use all 16 bits, with their power of two; the delay line is kept. */
+Status tavsFIRSetTaps32s_16s32f(const Tav32f* pTaps, FIRState32s_16s* pState);
+
+/* ---- FIRState32sc_16sc: 32sc taps held as 16sc values and a power of two, over 16sc data ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32sc_16sc(int tapsLen, int* pBufferSize);
+/* Lays a record of 16-bit tap values and a power of two chosen from the taps, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit32sc_16sc(FIRState32sc_16sc** ppState, const Tav32sc* pTaps, int tapsLen, int tapsFactor, const Tav16sc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32sc_16sc(FIRState32sc_16sc** ppState, const Tav32sc* pTaps, int tapsLen, int tapsFactor, const Tav16sc* pDlyLine);
+/* Copies the held 16-bit tap values out in caller order, and their power of two. */
+Status tavsFIRGetTaps32sc_16sc(const FIRState32sc_16sc* pState, Tav32sc* pTaps, int* pTapsFactor);
+/* Stores new taps times 2^tapsFactor as 16-bit values and a power of two; the delay line is kept. */
+Status tavsFIRSetTaps32sc_16sc(const Tav32sc* pTaps, FIRState32sc_16sc* pState, int tapsFactor);
+/* Releases a record made by InitAlloc; a record made by Init is left alone. */
+Status tavsFIRFree32sc_16sc(FIRState32sc_16sc* pState);
+/* Copies the tapsLen delay values out, newest first. */
+Status tavsFIRGetDlyLine32sc_16sc(const FIRState32sc_16sc* pState, Tav16sc* pDlyLine);
+/* Stores tapsLen delay values, newest first; null gives zeros. */
+Status tavsFIRSetDlyLine32sc_16sc(FIRState32sc_16sc* pState, const Tav16sc* pDlyLine);
+/* Filters len samples with 32-bit sums; shifted by tapsFactor - scaleFactor, rounded, limited. */
+Status tavsFIR32sc_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, FIRState32sc_16sc* pState, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32sc_16sc_ISfs(Tav16sc* pSrcDst, int len, FIRState32sc_16sc* pState, int scaleFactor);
+/* Filters one sample, scaled and rounded as the block form. */
+Status tavsFIROne32sc_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, FIRState32sc_16sc* pState, int scaleFactor);
+
+/* ---- FIRState32sc_16sc from 32fc taps ---- */
+/* Bytes a record of tapsLen taps needs in the Init block; ErrFilterLen for a count below 1. */
+Status tavsFIRGetStateSize32sc_16sc32fc(int tapsLen, int* pBufferSize);
+/* Lays a record of 16-bit tap values and a power of two chosen from the taps, with its delay line (newest first; null gives zeros). */
+Status tavsFIRInit32sc_16sc32fc(FIRState32sc_16sc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav16sc* pDlyLine, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that the Free form releases. */
+Status tavsFIRInitAlloc32sc_16sc32fc(FIRState32sc_16sc** ppState, const Tav32fc* pTaps, int tapsLen, const Tav16sc* pDlyLine);
+/* Copies the taps out as held value times 2^tapsFactor. */
+Status tavsFIRGetTaps32sc_16sc32fc(const FIRState32sc_16sc* pState, Tav32fc* pTaps);
+/* Stores new taps scaled to use all 16 bits, with their power of two; the delay line is kept. */
+Status tavsFIRSetTaps32sc_16sc32fc(const Tav32fc* pTaps, FIRState32sc_16sc* pState);
+
+/* ---- stream records: no delay line, src offers len + tapsLen - 1 samples ---- */
+/* Bytes a stream record of tapsLen taps needs; ErrFilterLen for a count below 1. */
+Status tavsFIRStreamGetStateSize_32f(int tapsLen, int* pBufferSize);
+/* Lays a stream record: tavsFIR_32f then reads len + tapsLen - 1 source samples and keeps no delay line. */
+Status tavsFIRStreamInit_32f(FIRState_32f** ppState, const Tav32f* pTaps, int tapsLen, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that tavsFIRFree_32f releases. */
+Status tavsFIRStreamInitAlloc_32f(FIRState_32f** ppState, const Tav32f* pTaps, int tapsLen);
+/* Bytes a 16-bit stream record of tapsLen taps needs; ErrFilterLen for a count below 1. */
+Status tavsFIRStreamGetStateSize_16s(int tapsLen, int* pBufferSize);
+/* Lays a 16-bit stream record; roundMode (0, 1 or 2) rounds the right shift of each output. */
+Status tavsFIRStreamInit_16s(FIRState_16s** ppState, const Tav16s* pTaps, int tapsLen, int tapsFactor, int roundMode, Tav8u* pBuffer);
+/* As the Init form, in a block of its own that tavsFIRFree_16s releases. */
+Status tavsFIRStreamInitAlloc_16s(FIRState_16s** ppState, const Tav16s* pTaps, int tapsLen, int tapsFactor, int roundMode);
+
+/* ---- stateless forms over the caller's taps and delay ring ---- */
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR_Direct_32f(const Tav32f* pSrc, Tav32f* pDst, int len, const Tav32f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_Direct_32f_I(Tav32f* pSrcDst, int len, const Tav32f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne_Direct_32f(Tav32f src, Tav32f* pDstVal, const Tav32f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne_Direct_32f_I(Tav32f* pSrcDstVal, const Tav32f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR_Direct_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, const Tav32fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_Direct_32fc_I(Tav32fc* pSrcDst, int len, const Tav32fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne_Direct_32fc(Tav32fc src, Tav32fc* pDstVal, const Tav32fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne_Direct_32fc_I(Tav32fc* pSrcDstVal, const Tav32fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR_Direct_64f(const Tav64f* pSrc, Tav64f* pDst, int len, const Tav64f* pTaps, int tapsLen, Tav64f* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_Direct_64f_I(Tav64f* pSrcDst, int len, const Tav64f* pTaps, int tapsLen, Tav64f* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne_Direct_64f(Tav64f src, Tav64f* pDstVal, const Tav64f* pTaps, int tapsLen, Tav64f* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne_Direct_64f_I(Tav64f* pSrcDstVal, const Tav64f* pTaps, int tapsLen, Tav64f* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR_Direct_64fc(const Tav64fc* pSrc, Tav64fc* pDst, int len, const Tav64fc* pTaps, int tapsLen, Tav64fc* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_Direct_64fc_I(Tav64fc* pSrcDst, int len, const Tav64fc* pTaps, int tapsLen, Tav64fc* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne_Direct_64fc(Tav64fc src, Tav64fc* pDstVal, const Tav64fc* pTaps, int tapsLen, Tav64fc* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne_Direct_64fc_I(Tav64fc* pSrcDstVal, const Tav64fc* pTaps, int tapsLen, Tav64fc* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with Q15 taps and the caller's delay line (2*tapsLen values, newest first at *pDlyLineIndex); ErrDelayIndex outside [0, tapsLen). */
+Status tavsFIR_Direct_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav16s* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR_Direct_16s_ISfs(Tav16s* pSrcDst, int len, const Tav16s* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with Q15 taps and the caller's delay line, as the block form. */
+Status tavsFIROne_Direct_16s_Sfs(Tav16s src, Tav16s* pDstVal, const Tav16s* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne_Direct_16s_ISfs(Tav16s* pSrcDstVal, const Tav16s* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR32f_Direct_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav32f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32f_Direct_16s_ISfs(Tav16s* pSrcDst, int len, const Tav32f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne32f_Direct_16s_Sfs(Tav16s src, Tav16s* pDstVal, const Tav32f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne32f_Direct_16s_ISfs(Tav16s* pSrcDstVal, const Tav32f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR32fc_Direct_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, const Tav32fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32fc_Direct_16sc_ISfs(Tav16sc* pSrcDst, int len, const Tav32fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne32fc_Direct_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, const Tav32fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne32fc_Direct_16sc_ISfs(Tav16sc* pSrcDstVal, const Tav32fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with taps times 2^tapsFactor over the caller's ring of 2*tapsLen values; 32-bit sums, shifted, rounded, limited. */
+Status tavsFIR32s_Direct_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav32s* pTaps, int tapsLen, int tapsFactor, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32s_Direct_16s_ISfs(Tav16s* pSrcDst, int len, const Tav32s* pTaps, int tapsLen, int tapsFactor, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne32s_Direct_16s_Sfs(Tav16s src, Tav16s* pDstVal, const Tav32s* pTaps, int tapsLen, int tapsFactor, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne32s_Direct_16s_ISfs(Tav16s* pSrcDstVal, const Tav32s* pTaps, int tapsLen, int tapsFactor, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with taps times 2^tapsFactor over the caller's ring of 2*tapsLen values; 32-bit sums, shifted, rounded, limited. */
+Status tavsFIR32sc_Direct_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, const Tav32sc* pTaps, int tapsLen, int tapsFactor, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR32sc_Direct_16sc_ISfs(Tav16sc* pSrcDst, int len, const Tav32sc* pTaps, int tapsLen, int tapsFactor, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne32sc_Direct_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, const Tav32sc* pTaps, int tapsLen, int tapsFactor, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne32sc_Direct_16sc_ISfs(Tav16sc* pSrcDstVal, const Tav32sc* pTaps, int tapsLen, int tapsFactor, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64f_Direct_16s_Sfs(const Tav16s* pSrc, Tav16s* pDst, int len, const Tav64f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_Direct_16s_ISfs(Tav16s* pSrcDst, int len, const Tav64f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64f_Direct_16s_Sfs(Tav16s src, Tav16s* pDstVal, const Tav64f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64f_Direct_16s_ISfs(Tav16s* pSrcDstVal, const Tav64f* pTaps, int tapsLen, Tav16s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64f_Direct_32f(const Tav32f* pSrc, Tav32f* pDst, int len, const Tav64f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_Direct_32f_I(Tav32f* pSrcDst, int len, const Tav64f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64f_Direct_32f(Tav32f src, Tav32f* pDstVal, const Tav64f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64f_Direct_32f_I(Tav32f* pSrcDstVal, const Tav64f* pTaps, int tapsLen, Tav32f* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64f_Direct_32s_Sfs(const Tav32s* pSrc, Tav32s* pDst, int len, const Tav64f* pTaps, int tapsLen, Tav32s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64f_Direct_32s_ISfs(Tav32s* pSrcDst, int len, const Tav64f* pTaps, int tapsLen, Tav32s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64f_Direct_32s_Sfs(Tav32s src, Tav32s* pDstVal, const Tav64f* pTaps, int tapsLen, Tav32s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64f_Direct_32s_ISfs(Tav32s* pSrcDstVal, const Tav64f* pTaps, int tapsLen, Tav32s* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64fc_Direct_16sc_Sfs(const Tav16sc* pSrc, Tav16sc* pDst, int len, const Tav64fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_Direct_16sc_ISfs(Tav16sc* pSrcDst, int len, const Tav64fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64fc_Direct_16sc_Sfs(Tav16sc src, Tav16sc* pDstVal, const Tav64fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64fc_Direct_16sc_ISfs(Tav16sc* pSrcDstVal, const Tav64fc* pTaps, int tapsLen, Tav16sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64fc_Direct_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, const Tav64fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_Direct_32fc_I(Tav32fc* pSrcDst, int len, const Tav64fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64fc_Direct_32fc(Tav32fc src, Tav32fc* pDstVal, const Tav64fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64fc_Direct_32fc_I(Tav32fc* pSrcDstVal, const Tav64fc* pTaps, int tapsLen, Tav32fc* pDlyLine, int* pDlyLineIndex);
+/* Filters len samples with the caller's taps and ring of 2*tapsLen values at *pDlyLineIndex; products summed in 64f. */
+Status tavsFIR64fc_Direct_32sc_Sfs(const Tav32sc* pSrc, Tav32sc* pDst, int len, const Tav64fc* pTaps, int tapsLen, Tav32sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* In place: as the out-of-place form on pSrcDst. */
+Status tavsFIR64fc_Direct_32sc_ISfs(Tav32sc* pSrcDst, int len, const Tav64fc* pTaps, int tapsLen, Tav32sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* Filters one sample with the caller's taps and ring, as the block form. */
+Status tavsFIROne64fc_Direct_32sc_Sfs(Tav32sc src, Tav32sc* pDstVal, const Tav64fc* pTaps, int tapsLen, Tav32sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+/* The sample is read from and the output written to *pSrcDstVal. */
+Status tavsFIROne64fc_Direct_32sc_ISfs(Tav32sc* pSrcDstVal, const Tav64fc* pTaps, int tapsLen, Tav32sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
+
+/* ---- SR forms: delay in and delay out as separate arrays, oldest first ---- */
+/* Bytes of the spec block and of the work buffer for tapsLen taps of dataType (13, 14, 19, 20). */
+Status tavsFIRSRGetSize(int tapsLen, int dataType, int* pSpecSize, int* pBufSize);
+/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+Status tavsFIRSRInit_32f(const Tav32f* pTaps, int tapsLen, int algSelect, FIRSRSpec_32f* pSpec);
+/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+Status tavsFIRSRInit_32fc(const Tav32fc* pTaps, int tapsLen, int algSelect, FIRSRSpec_32fc* pSpec);
+/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+Status tavsFIRSRInit_64f(const Tav64f* pTaps, int tapsLen, int algSelect, FIRSRSpec_64f* pSpec);
+/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+Status tavsFIRSRInit_64fc(const Tav64fc* pTaps, int tapsLen, int algSelect, FIRSRSpec_64fc* pSpec);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_32f(const Tav32f* pSrc, Tav32f* pDst, int len, const FIRSRSpec_32f* pSpec, const Tav32f* pDlySrc, Tav32f* pDlyDst, Tav8u* pBuffer);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_32fc(const Tav32fc* pSrc, Tav32fc* pDst, int len, const FIRSRSpec_32fc* pSpec, const Tav32fc* pDlySrc, Tav32fc* pDlyDst, Tav8u* pBuffer);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_64f(const Tav64f* pSrc, Tav64f* pDst, int len, const FIRSRSpec_64f* pSpec, const Tav64f* pDlySrc, Tav64f* pDlyDst, Tav8u* pBuffer);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_64fc(const Tav64fc* pSrc, Tav64fc* pDst, int len, const FIRSRSpec_64fc* pSpec, const Tav64fc* pDlySrc, Tav64fc* pDlyDst, Tav8u* pBuffer);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_16s(const Tav16s* pSrc, Tav16s* pDst, int len, const FIRSRSpec_32f* pSpec, const Tav16s* pDlySrc, Tav16s* pDlyDst, Tav8u* pBuffer);
+/* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
+Status tavsFIRSR_16sc(const Tav16sc* pSrc, Tav16sc* pDst, int len, const FIRSRSpec_32fc* pSpec, const Tav16sc* pDlySrc, Tav16sc* pDlyDst, Tav8u* pBuffer);
 
 /* @@IIR@@ (recursive filters) */
 /* Recursive filter records, one kind per taps/data pair. Each holds the taps
