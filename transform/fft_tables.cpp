@@ -156,6 +156,16 @@ namespace {
 constexpr int8_t kFirstFactor32[17] = {0, 0, 5, 6, 7, 8, 8, 8, 10, 10, 10, 10, 8, 8, 10, 10, 10};
 constexpr int8_t kFirstFactor64[17] = {0, 4, 5, 6, 7, 7, 8, 9, 9, 9, 8, 8, 9, 9, 9, 9, 9};
 
+constexpr int largest_first_factor()
+{
+    int f = 0;
+    for (int i = 0; i < 17; ++i) {
+        if (kFirstFactor32[i] > f) f = kFirstFactor32[i];
+        if (kFirstFactor64[i] > f) f = kFirstFactor64[i];
+    }
+    return f;
+}
+
 struct Core {
     int64_t S, I, W;
 };
@@ -231,28 +241,34 @@ template Sizes real_sizes<double>(int);
 
 namespace {
 constexpr double kTwoPi = 6.283185307179586476925286766559;
+
+// (cos, -sin) of W^e for e in [0, circle) from the sine table s of a
+// circle whose quarter is Q, by quadrant folding; a quadrant boundary goes
+// with the lower quadrant.
+template <class S> inline void fold_quarter(const S* s, int64_t Q, int64_t e, S& re, S& im)
+{
+    S c, sn;
+    if (e <= Q) {
+        c = s[Q - e];
+        sn = s[e];
+    } else if (e <= 2 * Q) {
+        c = -s[e - Q];
+        sn = s[2 * Q - e];
+    } else if (e <= 3 * Q) {
+        c = -s[3 * Q - e];
+        sn = -s[e - 2 * Q];
+    } else {
+        c = s[e - 3 * Q];
+        sn = -s[4 * Q - e];
+    }
+    re = c;
+    im = -sn;
+}
 } // namespace
 
 template <class S> void QuarterSine<S>::twiddle(int64_t e, S& re, S& im) const
 {
-    const int64_t Q = circle >> 2;
-    e &= circle - 1;
-    S c, s;
-    if (e <= Q) {
-        c = this->s[Q - e];
-        s = this->s[e];
-    } else if (e <= 2 * Q) {
-        c = -this->s[e - Q];
-        s = this->s[2 * Q - e];
-    } else if (e <= 3 * Q) {
-        c = -this->s[3 * Q - e];
-        s = -this->s[e - 2 * Q];
-    } else {
-        c = this->s[e - 3 * Q];
-        s = -this->s[4 * Q - e];
-    }
-    re = c;
-    im = -s;
+    fold_quarter(this->s, circle >> 2, e & (circle - 1), re, im);
 }
 template struct QuarterSine<float>;
 template struct QuarterSine<double>;
@@ -279,6 +295,12 @@ template QuarterSine<double> quarter_sine<double>(int, double*);
 // ---- builders -------------------------------------------------------------
 
 namespace {
+// The widest column FFT of any two-factor level, and the window of the
+// circle (in exponent steps of the level) that the column builder fills at
+// a time: 2^14 steps keep both stretches of the sine table in the L2 cache.
+constexpr int64_t kMaxColumns = int64_t(1) << largest_first_factor();
+constexpr int64_t kColumnWindow = int64_t(1) << 14;
+
 inline uint32_t bit_reverse(uint32_t v, int bits)
 {
     uint32_t r = 0;
@@ -291,7 +313,9 @@ inline uint32_t bit_reverse(uint32_t v, int bits)
 } // namespace
 
 // Pairs (4i, 4j) with i < j = reverse(i) from the front, ended by 0; the
-// self-reversed 4i from the back downward, with a 0 at slot L/4.
+// self-reversed 4i from the back downward, with a 0 at slot L/4. The
+// reversed index is carried along: adding 1 to i adds 1 to j from its top
+// bit downward.
 void build_swap_list(int32_t* list, int m)
 {
     if (m < 2) return;
@@ -299,12 +323,18 @@ void build_swap_list(int32_t* list, int m)
     const int32_t quarter = int32_t(1) << bits;
     int32_t front = 0, back = quarter;
     list[back--] = 0;
+    uint32_t j = 0;
     for (int32_t i = 1; i < quarter; ++i) {
-        const int32_t j = int32_t(bit_reverse(uint32_t(i), bits));
-        if (i < j) {
+        uint32_t bit = uint32_t(quarter) >> 1;
+        while (j & bit) {
+            j ^= bit;
+            bit >>= 1;
+        }
+        j |= bit;
+        if (uint32_t(i) < j) {
             list[front++] = 4 * i;
-            list[front++] = 4 * j;
-        } else if (i == j) {
+            list[front++] = int32_t(4 * j);
+        } else if (uint32_t(i) == j) {
             list[back--] = 4 * i;
         }
     }
@@ -330,17 +360,44 @@ template void build_merge<double>(double*, int64_t, const QuarterSine<double>&);
 
 // Groups of four columns c .. c+3; in each, for the rows r in order, the
 // four values W_N^(c * rev(r)) side by side (N = R * M).
+//
+// Row r's exponents c * rev(r) grow with c, so the table is filled one
+// window of the circle at a time: in each window every row writes its next
+// columns whose exponents fall inside it. The sine table is then read in two
+// short stretches per window (the exponent and its quarter complement)
+// instead of at a random place for every entry, which at the largest orders
+// (a 1 GB table from a 128 MB sine table) is what the build time was made
+// of. Each entry is the same lookup as in any other order.
 template <class S> void build_columns(S* t, int64_t R, int64_t M, const QuarterSine<S>& qs)
 {
     int bits = 0;
     while ((int64_t(1) << bits) < R) ++bits;
     const int64_t stride = qs.circle / (R * M);
-    S* p = t;
-    for (int64_t c = 0; c < M; c += 4)
+    const int64_t Q = qs.circle >> 2;
+    int64_t step[kMaxColumns]; // rev(r) * stride: row r's exponent step per column
+    int64_t next[kMaxColumns]; // the first column row r has not written yet
+    for (int64_t r = 0; r < R; ++r) {
+        step[r] = int64_t(bit_reverse(uint32_t(r), bits)) * stride;
+        next[r] = 0;
+    }
+    // Every exponent is below (M - 1) (R - 1) stride < circle: no reduction.
+    const int64_t window = kColumnWindow * stride;
+    const int64_t rowGap = 8 * R - 6; // from column 4g+3 to column 4g+4 of a row
+    for (int64_t end = window;; end += window) {
         for (int64_t r = 0; r < R; ++r) {
-            const int64_t rr = int64_t(bit_reverse(uint32_t(r), bits));
-            for (int64_t j = 0; j < 4; ++j, p += 2) qs.twiddle((c + j) * rr * stride, p[0], p[1]);
+            int64_t c = next[r];
+            if (c >= M) continue;
+            const int64_t st = step[r];
+            int64_t e = c * st;
+            S* p = t + 2 * ((c >> 2) * 4 * R + 4 * r + (c & 3));
+            for (; c < M && e < end; ++c, e += st) {
+                fold_quarter(qs.s, Q, e, p[0], p[1]);
+                p += (c & 3) == 3 ? rowGap : 2;
+            }
+            next[r] = c;
         }
+        if (end >= qs.circle) break;
+    }
 }
 template void build_columns<float>(float*, int64_t, int64_t, const QuarterSine<float>&);
 template void build_columns<double>(double*, int64_t, int64_t, const QuarterSine<double>&);

@@ -174,14 +174,15 @@ struct HugeSignal {
 template <class S, class C, class Spec> struct HugeKind {
     const char* name;
     Status (*initAlloc)(Spec**, int, int, int);
-    Status (*fwd)(C*, const Spec*, Tav8u*);
+    Status (*fwd)(const C*, C*, const Spec*, Tav8u*);
     Status (*inv)(C*, const Spec*, Tav8u*);
     Status (*free)(Spec*);
 };
 
-// Forward then inverse in place at one order: eight bins against the closed
+// Forward out of place (the bit reversal fused with the first pass), then
+// inverse in place (the swap list) at one order: eight bins against the closed
 // form, at order 23 two bins against a direct long-double transform of the
-// stored (rounded) data, and the round trip against the signal.
+// stored (rounded) data, and the round trip against the stored data.
 template <class S, class C, class Spec> void check_huge(const HugeKind<S, C, Spec>& k, int order, int flag)
 {
     const HugeSignal sig(order);
@@ -189,7 +190,8 @@ template <class S, class C, class Spec> void check_huge(const HugeKind<S, C, Spe
     const uint64_t N = sig.N;
     Spec* spec = nullptr;
     ASSERT_EQ(k.initAlloc(&spec, order, flag, 0), StatusOk) << k.name << " order " << order;
-    std::unique_ptr<S[]> data(new S[2 * N]);
+    // The input stays as it is for the round trip; the spectrum goes to data.
+    std::unique_ptr<S[]> input(new S[2 * N]), data(new S[2 * N]);
     // Direct transform in long double at two bins off the tones, accumulated
     // while the data is written (the twiddle of value n is exp(-2 pi i k n /
     // N)); at the first order only, as it costs more than the transforms.
@@ -201,16 +203,17 @@ template <class S, class C, class Spec> void check_huge(const HugeKind<S, C, Spe
     for (uint64_t n = 0; n < N; ++n) {
         double re, im;
         sig.value(e, n, re, im);
-        data[2 * n] = S(re);
-        data[2 * n + 1] = S(im);
-        energy += double(data[2 * n]) * double(data[2 * n]) + double(data[2 * n + 1]) * double(data[2 * n + 1]);
+        input[2 * n] = S(re);
+        input[2 * n + 1] = S(im);
+        energy += double(input[2 * n]) * double(input[2 * n]) + double(input[2 * n + 1]) * double(input[2 * n + 1]);
         if (direct) {
-            const ft::cld xs((long double)data[2 * n], (long double)data[2 * n + 1]);
+            const ft::cld xs((long double)input[2 * n], (long double)input[2 * n + 1]);
             dft[0] += cmul(xs, r0.next());
             dft[1] += cmul(xs, r1.next());
         }
     }
-    ASSERT_EQ(k.fwd(reinterpret_cast<C*>(data.get()), spec, nullptr), StatusOk);
+    ASSERT_EQ(k.fwd(reinterpret_cast<const C*>(input.get()), reinterpret_cast<C*>(data.get()), spec, nullptr),
+              StatusOk);
     // Per-bin tolerance: the RMS error per bin that the bound on the relative
     // RMS error allows (Parseval: |X|^2 sums to N * energy), times 64 as the
     // rounding gathers in the bins next to a tone, plus the bound relative to
@@ -234,29 +237,32 @@ template <class S, class C, class Spec> void check_huge(const HugeKind<S, C, Spe
                 << k.name << " order " << order << " direct, bin " << bins[j];
     ASSERT_EQ(k.inv(reinterpret_cast<C*>(data.get()), spec, nullptr), StatusOk);
     double err = 0;
-    for (uint64_t n = 0; n < N; ++n) {
-        double re, im;
-        sig.value(e, n, re, im);
-        const double dr = double(data[2 * n]) - re, di = double(data[2 * n + 1]) - im;
-        err += dr * dr + di * di;
+    for (uint64_t n = 0; n < 2 * N; ++n) {
+        const double d = double(data[n]) - double(input[n]);
+        err += d * d;
     }
     EXPECT_LT(double(std::sqrt(err / energy)), 2 * ft::bound<S>(order)) << k.name << " order " << order << " round trip";
     EXPECT_EQ(k.free(spec), StatusOk);
 }
 
-const HugeKind<float, Tav32fc, FFTSpec_C_32fc> kHuge32fc{"32fc", tavsFFTInitAlloc_C_32fc, tavsFFTFwd_CToC_32fc_I,
+const HugeKind<float, Tav32fc, FFTSpec_C_32fc> kHuge32fc{"32fc", tavsFFTInitAlloc_C_32fc, tavsFFTFwd_CToC_32fc,
                                                           tavsFFTInv_CToC_32fc_I, tavsFFTFree_C_32fc};
-const HugeKind<double, Tav64fc, FFTSpec_C_64fc> kHuge64fc{"64fc", tavsFFTInitAlloc_C_64fc, tavsFFTFwd_CToC_64fc_I,
+const HugeKind<double, Tav64fc, FFTSpec_C_64fc> kHuge64fc{"64fc", tavsFFTInitAlloc_C_64fc, tavsFFTFwd_CToC_64fc,
                                                            tavsFFTInv_CToC_64fc_I, tavsFFTFree_C_64fc};
 
-// The largest orders (23 to 27 in 32f, 23 to 26 in 64f), in place, one
-// record at a time; the scaling flag alternates between the two that make a
-// round trip return the input.
+// The largest orders, one record at a time; the scaling flag alternates
+// between the two that make a round trip return the input. Every level-0
+// split is run (2^8 and 2^10 columns in 32f, 2^9 in 64f) with rows of each
+// inner shape, and the largest order of each precision; 32f order 26 (2^10
+// by rows of 2^16) and 64f order 25 (2^9 by 2^16) are left out for time:
+// their rows are the order-16 step checked above, their tables are checked
+// bit for bit in test_fft_tables.
 TEST(LargeOrders, Orders23AndUp)
 {
-    const int top32 = kQuick ? 23 : 27, top64 = kQuick ? 23 : 26;
-    for (int order = 23; order <= top32; ++order) check_huge(kHuge32fc, order, order % 2 ? ScaleFwdByLen : ScaleInvByLen);
-    for (int order = 23; order <= top64; ++order) check_huge(kHuge64fc, order, order % 2 ? ScaleInvByLen : ScaleFwdByLen);
+    const std::vector<int> o32 = kQuick ? std::vector<int>{23} : std::vector<int>{23, 24, 25, 27};
+    const std::vector<int> o64 = kQuick ? std::vector<int>{23} : std::vector<int>{23, 24, 26};
+    for (int order : o32) check_huge(kHuge32fc, order, order % 2 ? ScaleFwdByLen : ScaleInvByLen);
+    for (int order : o64) check_huge(kHuge64fc, order, order % 2 ? ScaleInvByLen : ScaleFwdByLen);
 }
 
 } // namespace

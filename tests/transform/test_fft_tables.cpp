@@ -1,5 +1,6 @@
 // GetSize against the documented formulas for every kind, order, flag and
-// hint; and the contents of the tables that Init lays in a record.
+// hint; and the contents of the tables that Init lays in a record, every
+// table of many records compared bit for bit with its rule.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "fft_sizes.h"
+#include "fft_table_ref.h"
 #include "internal/fft.h"
 #include "tavs.h"
 
@@ -330,6 +332,94 @@ TEST(FFTTables, RealTwiddles)
         EXPECT_NEAR(s19.rec->realFwd[2 * (1024 + j)], cos2pi(1024 * j, N3), 6e-8);
         EXPECT_NEAR(s19.rec->realInv[2 * (1024 + j) + 1], msin2pi(1024 * j, N3), 6e-8);
     }
+}
+
+} // namespace
+
+// ---- every table of a record, bit for bit --------------------------------------
+
+
+namespace {
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define FTAB_INSTRUMENTED 1
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
+#ifndef FTAB_INSTRUMENTED
+#define FTAB_INSTRUMENTED 1
+#endif
+#endif
+
+template <class S> using FSpec = tavs::fft::FloatSpec<S>;
+
+// Builds one record through InitAlloc and compares all its tables with the
+// rules; returns the number of two-factor levels of its complex tables.
+template <class S, class Spec>
+int check_record(Status (*initAlloc)(Spec**, int, int, int), Status (*release)(Spec*), int order, bool real,
+                 const fref::Reverser& rev)
+{
+    Spec* p = nullptr;
+    EXPECT_EQ(initAlloc(&p, order, ScaleNever, 0), StatusOk) << order;
+    if (!p) return -1;
+    const auto* rec = reinterpret_cast<const FSpec<S>*>(p);
+    const fref::Circle<S> circ(std::max(order, 10));
+    const int m = real ? order - 1 : order;
+    int levels = 0;
+    {
+        SCOPED_TRACE(std::string(real ? "real " : "complex ") + (sizeof(S) == 4 ? "32f" : "64f") + " order " +
+                     std::to_string(order));
+        levels = fref::check_complex_tables<S>(rec, m, circ, rev);
+        if (real && order >= 6) fref::check_real_tables<S>(rec, order, circ);
+        if (real && order < 6) EXPECT_EQ(rec->realFwd, nullptr);
+    }
+    EXPECT_EQ(release(p), StatusOk);
+    return levels;
+}
+
+#ifdef FTAB_INSTRUMENTED
+// Every path of the builders, at orders an instrumented build covers quickly.
+const std::vector<int> kComplex32 = {0, 5, 6, 7, 10, 11, 12, 13, 14, 16, 19, 20, 23};
+const std::vector<int> kComplex64 = {0, 5, 6, 9, 10, 11, 12, 13, 17, 20, 21};
+const std::vector<int> kReal32 = {5, 6, 7, 11, 12, 13, 14, 18, 19, 20};
+const std::vector<int> kReal64 = {5, 6, 7, 11, 12, 13, 17, 18, 19};
+#else
+// Every order up to 24, and the largest: 27 in 32f (2^10 columns by rows of
+// 2^17, which split again into 2^8 by 2^9).
+std::vector<int> upto(int top, std::vector<int> extra = {})
+{
+    std::vector<int> v;
+    for (int o = 0; o <= top; ++o) v.push_back(o);
+    v.insert(v.end(), extra.begin(), extra.end());
+    return v;
+}
+const std::vector<int> kComplex32 = upto(24, {27});
+const std::vector<int> kComplex64 = upto(24);
+const std::vector<int> kReal32 = upto(22);
+const std::vector<int> kReal64 = upto(22);
+#endif
+
+TEST(FFTTables, ComplexRecordsMatchTheRulesBitForBit)
+{
+    const fref::Reverser rev;
+    for (int order : kComplex32) {
+        const int levels = check_record<float>(tavsFFTInitAlloc_C_32fc, tavsFFTFree_C_32fc, order, false, rev);
+        if (order == 23 || order == 27) EXPECT_EQ(levels, 2) << order;
+        if (order == 13 || order == 20) EXPECT_EQ(levels, 1) << order;
+    }
+    for (int order : kComplex64) {
+        const int levels = check_record<double>(tavsFFTInitAlloc_C_64fc, tavsFFTFree_C_64fc, order, false, rev);
+        if (order == 21 || order == 24) EXPECT_EQ(levels, 2) << order;
+        if (order == 12 || order == 20) EXPECT_EQ(levels, 1) << order;
+    }
+}
+
+TEST(FFTTables, RealRecordsMatchTheRulesBitForBit)
+{
+    const fref::Reverser rev;
+    for (int order : kReal32) check_record<float>(tavsFFTInitAlloc_R_32f, tavsFFTFree_R_32f, order, true, rev);
+    for (int order : kReal64) check_record<double>(tavsFFTInitAlloc_R_64f, tavsFFTFree_R_64f, order, true, rev);
 }
 
 } // namespace
