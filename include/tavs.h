@@ -1268,7 +1268,7 @@ typedef struct FIRState64fc_32sc FIRState64fc_32sc;
 typedef struct FIRState64f_16s FIRState64f_16s;
 typedef struct FIRState64fc_16sc FIRState64fc_16sc;
 typedef struct FIRState_16s FIRState_16s;
-/* SR specification blocks: the caller's block, aligned up to 64 bytes inside
+/* SR spec blocks: the caller's block, aligned up to 64 bytes inside
  * at every use; tavsFIRSR_16s and tavsFIRSR_16sc take the 32f and 32fc specs. */
 typedef struct FIRSRSpec_32f FIRSRSpec_32f;
 typedef struct FIRSRSpec_32fc FIRSRSpec_32fc;

@@ -390,7 +390,7 @@ TEST(FirInt, TapRules)
     EXPECT_EQ(cfb[0].re, 0.5f);
     EXPECT_EQ(cfb[0].im, -0.5f);
     EXPECT_EQ(cfb[1].re, 0.25f);
-    // Largest part 0.25: doubled until 2m reaches 32767, so 2^16 and -16.
+    // Largest re or im 0.25: doubled until 2m reaches 32767, so 2^16 and -16.
     const Tav32fc cq[2] = {{0.25f, 0.0f}, {0.0f, -0.125f}};
     ASSERT_EQ(tavsFIRSetTaps32sc_16sc32fc(cq, c), StatusOk);
     ASSERT_EQ(tavsFIRGetTaps32sc_16sc(c, cb, &f), StatusOk);
