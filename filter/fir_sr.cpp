@@ -2,9 +2,9 @@
 #include "internal/fir_convert.h"
 #include "internal/fir_kernel.h"
 
-// The SR forms: a read-only spec of the reversed taps, and calls that take
+// The SR forms: a read-only block of the reversed taps, and calls that take
 // the delay in and give it out as separate arrays, oldest first, tapsLen-1
-// values each. The spec lies at the caller's block aligned up to 64 bytes:
+// values each. The block lies at the caller's block aligned up to 64 bytes:
 // a 64-byte header, then the taps.
 #include <climits>
 
@@ -131,7 +131,7 @@ Status sr_run(const X* src, X* dst, int len, const void* spec, const X* dlySrc, 
     return StatusOk;
 }
 
-// 16s and 16sc data on a 32f or 32fc spec: widened in chunks, filtered,
+// 16s and 16sc data on a 32f or 32fc SR block: widened in chunks, filtered,
 // converted out with rounding mode 1 and scale 0.
 template <class X, class D>
 Status sr_int(const D* src, D* dst, int len, const void* spec, const D* dlySrc, D* dlyDst, Tav8u* buffer, int cap)

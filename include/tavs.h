@@ -1268,7 +1268,7 @@ typedef struct FIRState64fc_32sc FIRState64fc_32sc;
 typedef struct FIRState64f_16s FIRState64f_16s;
 typedef struct FIRState64fc_16sc FIRState64fc_16sc;
 typedef struct FIRState_16s FIRState_16s;
-/* SR spec blocks: the caller's block, aligned up to 64 bytes inside
+/* SR blocks: the caller's block, aligned up to 64 bytes inside
  * at every use; tavsFIRSR_16s and tavsFIRSR_16sc take the 32f and 32fc specs. */
 typedef struct FIRSRSpec_32f FIRSRSpec_32f;
 typedef struct FIRSRSpec_32fc FIRSRSpec_32fc;
@@ -1817,15 +1817,15 @@ Status tavsFIROne64fc_Direct_32sc_Sfs(Tav32sc src, Tav32sc* pDstVal, const Tav64
 Status tavsFIROne64fc_Direct_32sc_ISfs(Tav32sc* pSrcDstVal, const Tav64fc* pTaps, int tapsLen, Tav32sc* pDlyLine, int* pDlyLineIndex, int scaleFactor);
 
 /* ---- SR forms: delay in and delay out as separate arrays, oldest first ---- */
-/* Bytes of the spec block and of the work buffer for tapsLen taps of dataType (13, 14, 19, 20). */
+/* Bytes of the SR block and of the work buffer for tapsLen taps of dataType (13, 14, 19, 20). */
 Status tavsFIRSRGetSize(int tapsLen, int dataType, int* pSpecSize, int* pBufSize);
-/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+/* Lays the taps in the SR block; algSelect must be 0, 1 or 2. */
 Status tavsFIRSRInit_32f(const Tav32f* pTaps, int tapsLen, int algSelect, FIRSRSpec_32f* pSpec);
-/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+/* Lays the taps in the SR block; algSelect must be 0, 1 or 2. */
 Status tavsFIRSRInit_32fc(const Tav32fc* pTaps, int tapsLen, int algSelect, FIRSRSpec_32fc* pSpec);
-/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+/* Lays the taps in the SR block; algSelect must be 0, 1 or 2. */
 Status tavsFIRSRInit_64f(const Tav64f* pTaps, int tapsLen, int algSelect, FIRSRSpec_64f* pSpec);
-/* Lays the taps in the spec block; algSelect must be 0, 1 or 2. */
+/* Lays the taps in the SR block; algSelect must be 0, 1 or 2. */
 Status tavsFIRSRInit_64fc(const Tav64fc* pTaps, int tapsLen, int algSelect, FIRSRSpec_64fc* pSpec);
 /* Filters len samples after the tapsLen-1 samples of pDlySrc (oldest first; null gives zeros); pDlyDst, if given, gets the last tapsLen-1 inputs. */
 Status tavsFIRSR_32f(const Tav32f* pSrc, Tav32f* pDst, int len, const FIRSRSpec_32f* pSpec, const Tav32f* pDlySrc, Tav32f* pDlyDst, Tav8u* pBuffer);

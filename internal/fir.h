@@ -143,7 +143,7 @@ inline int fft_order(int n)
     return b + 1;
 }
 
-// FFT sizes of a record: L and the spec, init and work bytes; all zero when
+// FFT sizes of a record: L and the record, init and work bytes; all zero when
 // the record has no FFT.
 struct FftSizes {
     int order = 0;

@@ -170,7 +170,7 @@ struct Core {
     int64_t S, I, W;
 };
 
-// Core(m) for m > 10: spec, init and work bytes of the large path at m.
+// Core(m) for m > 10: record, init and work bytes of the large path at m.
 template <class S> Core core(int m)
 {
     using D = Dims<S>;

@@ -1,5 +1,5 @@
-// The SR forms: sizes, the spec at any alignment, delay in and delay out in
-// time order, in place through the buffer, 16-bit data on a 32f spec.
+// The SR forms: sizes, the SR block at any alignment, delay in and delay out in
+// time order, in place through the buffer, 16-bit data on a 32f SR block.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -172,7 +172,7 @@ TEST(FirSR, Errors)
     EXPECT_EQ(tavsFIRSRInit_64f(nullptr, -4, 0, nullptr), ErrSize);
     EXPECT_EQ(tavsFIRSRInit_32fc(nullptr, 2, 0, reinterpret_cast<FIRSRSpec_32fc*>(spec)), ErrNullPtr);
     EXPECT_EQ(tavsFIRSRInit_64fc(nullptr, 2, 0, reinterpret_cast<FIRSRSpec_64fc*>(spec)), ErrNullPtr);
-    // A zeroed block or a spec of another type is not a spec.
+    // A zeroed block or the SR block of another type is refused.
     Tav32f x[4] = {1, 2, 3, 4};
     tt::Guarded<Tav32f> g(4);
     auto* sp = reinterpret_cast<FIRSRSpec_32f*>(spec);
