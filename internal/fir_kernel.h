@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "internal/simd.h"
 #include "internal/types.h"
 
 namespace tavs::fir {
@@ -56,60 +57,45 @@ inline void correlate_scalar(const Tav64fc* h, int n, const Tav64fc* x, Tav64fc*
     correlate_cx_scalar(h, n, x, dst, cnt);
 }
 
-// 32f: sixteen, then four outputs a step, one lane each.
-inline void correlate(const Tav32f* h, int n, const Tav32f* x, Tav32f* dst, int cnt)
+// Real data: four registers of outputs a step (16 in 32f, 8 in 64f), then
+// one register, one output per lane; the rest one at a time.
+template <class T> inline void correlate_lanes(const T* h, int n, const T* x, T* dst, int cnt)
 {
+    using V = simd::Vec<T>;
+    constexpr int L = V::lanes;
     int j = 0;
-    for (; j + 16 <= cnt; j += 16) {
-        __m128 a0 = _mm_setzero_ps(), a1 = a0, a2 = a0, a3 = a0;
-        const Tav32f* p = x + j;
+    for (; j + 4 * L <= cnt; j += 4 * L) {
+        typename V::R a0 = V::set1(T(0)), a1 = a0, a2 = a0, a3 = a0;
+        const T* p = x + j;
         for (int i = 0; i < n; ++i) {
-            const __m128 t = _mm_set1_ps(h[i]);
-            a0 = _mm_add_ps(a0, _mm_mul_ps(t, _mm_loadu_ps(p + i)));
-            a1 = _mm_add_ps(a1, _mm_mul_ps(t, _mm_loadu_ps(p + i + 4)));
-            a2 = _mm_add_ps(a2, _mm_mul_ps(t, _mm_loadu_ps(p + i + 8)));
-            a3 = _mm_add_ps(a3, _mm_mul_ps(t, _mm_loadu_ps(p + i + 12)));
+            const typename V::R t = V::set1(h[i]);
+            a0 = V::add(a0, V::mul(t, V::load(p + i)));
+            a1 = V::add(a1, V::mul(t, V::load(p + i + L)));
+            a2 = V::add(a2, V::mul(t, V::load(p + i + 2 * L)));
+            a3 = V::add(a3, V::mul(t, V::load(p + i + 3 * L)));
         }
-        _mm_storeu_ps(dst + j, a0);
-        _mm_storeu_ps(dst + j + 4, a1);
-        _mm_storeu_ps(dst + j + 8, a2);
-        _mm_storeu_ps(dst + j + 12, a3);
+        V::storeu(dst + j, a0);
+        V::storeu(dst + j + L, a1);
+        V::storeu(dst + j + 2 * L, a2);
+        V::storeu(dst + j + 3 * L, a3);
     }
-    for (; j + 4 <= cnt; j += 4) {
-        __m128 a0 = _mm_setzero_ps();
-        const Tav32f* p = x + j;
-        for (int i = 0; i < n; ++i) a0 = _mm_add_ps(a0, _mm_mul_ps(_mm_set1_ps(h[i]), _mm_loadu_ps(p + i)));
-        _mm_storeu_ps(dst + j, a0);
+    for (; j + L <= cnt; j += L) {
+        typename V::R a0 = V::set1(T(0));
+        const T* p = x + j;
+        for (int i = 0; i < n; ++i) a0 = V::add(a0, V::mul(V::set1(h[i]), V::load(p + i)));
+        V::storeu(dst + j, a0);
     }
     if (j < cnt) correlate_scalar(h, n, x + j, dst + j, cnt - j);
 }
 
-// 64f: eight, then two outputs a step.
+inline void correlate(const Tav32f* h, int n, const Tav32f* x, Tav32f* dst, int cnt)
+{
+    correlate_lanes(h, n, x, dst, cnt);
+}
+
 inline void correlate(const Tav64f* h, int n, const Tav64f* x, Tav64f* dst, int cnt)
 {
-    int j = 0;
-    for (; j + 8 <= cnt; j += 8) {
-        __m128d a0 = _mm_setzero_pd(), a1 = a0, a2 = a0, a3 = a0;
-        const Tav64f* p = x + j;
-        for (int i = 0; i < n; ++i) {
-            const __m128d t = _mm_set1_pd(h[i]);
-            a0 = _mm_add_pd(a0, _mm_mul_pd(t, _mm_loadu_pd(p + i)));
-            a1 = _mm_add_pd(a1, _mm_mul_pd(t, _mm_loadu_pd(p + i + 2)));
-            a2 = _mm_add_pd(a2, _mm_mul_pd(t, _mm_loadu_pd(p + i + 4)));
-            a3 = _mm_add_pd(a3, _mm_mul_pd(t, _mm_loadu_pd(p + i + 6)));
-        }
-        _mm_storeu_pd(dst + j, a0);
-        _mm_storeu_pd(dst + j + 2, a1);
-        _mm_storeu_pd(dst + j + 4, a2);
-        _mm_storeu_pd(dst + j + 6, a3);
-    }
-    for (; j + 2 <= cnt; j += 2) {
-        __m128d a0 = _mm_setzero_pd();
-        const Tav64f* p = x + j;
-        for (int i = 0; i < n; ++i) a0 = _mm_add_pd(a0, _mm_mul_pd(_mm_set1_pd(h[i]), _mm_loadu_pd(p + i)));
-        _mm_storeu_pd(dst + j, a0);
-    }
-    if (j < cnt) correlate_scalar(h, n, x + j, dst + j, cnt - j);
+    correlate_lanes(h, n, x, dst, cnt);
 }
 
 // 32fc: two outputs a register; (hr*xr - hi*xi, hr*xi + hi*xr) is formed as

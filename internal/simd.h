@@ -18,6 +18,7 @@ template <> struct Vec<float> {
     static constexpr int lanes = 4;
     static R load(const float* p) { return _mm_loadu_ps(p); }
     static void store(float* p, R v) { _mm_store_ps(p, v); }
+    static void storeu(float* p, R v) { _mm_storeu_ps(p, v); }
     static R add(R a, R b) { return _mm_add_ps(a, b); }
     static R sub(R a, R b) { return _mm_sub_ps(a, b); }
     static R mul(R a, R b) { return _mm_mul_ps(a, b); }
@@ -31,6 +32,7 @@ template <> struct Vec<double> {
     static constexpr int lanes = 2;
     static R load(const double* p) { return _mm_loadu_pd(p); }
     static void store(double* p, R v) { _mm_store_pd(p, v); }
+    static void storeu(double* p, R v) { _mm_storeu_pd(p, v); }
     static R add(R a, R b) { return _mm_add_pd(a, b); }
     static R sub(R a, R b) { return _mm_sub_pd(a, b); }
     static R mul(R a, R b) { return _mm_mul_pd(a, b); }
