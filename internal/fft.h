@@ -184,6 +184,12 @@ private:
 template <class S>
 void complex_interleaved(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* src,
                          S* dst, unsigned char* work);
+// The same on data that is already in bit-reversed order in d (m >= 6): a
+// caller that produces its values anyway (the real inverse's pre-step) puts
+// them straight into their reversed places and skips the permutation pass.
+template <class S>
+void complex_interleaved_reversed(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, S* d,
+                                  unsigned char* work);
 // The same over split arrays.
 template <class S>
 void complex_split(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* srcRe,

@@ -328,6 +328,18 @@ template void complex_interleaved<double>(const FloatSpec<double>*, int, bool, b
                                           unsigned char*);
 
 template <class S>
+void complex_interleaved_reversed(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, S* d,
+                                  unsigned char* work)
+{
+    if (inverse) run<S, true>(spec, m, scaled, scale, Inter<S>{d}, work, false);
+    else run<S, false>(spec, m, scaled, scale, Inter<S>{d}, work, false);
+}
+template void complex_interleaved_reversed<float>(const FloatSpec<float>*, int, bool, bool, float, float*,
+                                                  unsigned char*);
+template void complex_interleaved_reversed<double>(const FloatSpec<double>*, int, bool, bool, double, double*,
+                                                   unsigned char*);
+
+template <class S>
 void complex_split(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* srcRe,
                    const S* srcIm, S* dstRe, S* dstIm, unsigned char* work)
 {
