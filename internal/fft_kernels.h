@@ -7,6 +7,20 @@
 
 namespace tavs::fft {
 
+// Reversal of the low `bits` bits of x (0 <= bits <= 62).
+inline int64_t rev_bits(int64_t x, int bits)
+{
+    if (bits == 0) return 0;
+    uint64_t v = uint64_t(x);
+    v = ((v >> 1) & 0x5555555555555555ull) | ((v & 0x5555555555555555ull) << 1);
+    v = ((v >> 2) & 0x3333333333333333ull) | ((v & 0x3333333333333333ull) << 2);
+    v = ((v >> 4) & 0x0F0F0F0F0F0F0F0Full) | ((v & 0x0F0F0F0F0F0F0F0Full) << 4);
+    v = ((v >> 8) & 0x00FF00FF00FF00FFull) | ((v & 0x00FF00FF00FF00FFull) << 8);
+    v = ((v >> 16) & 0x0000FFFF0000FFFFull) | ((v & 0x0000FFFF0000FFFFull) << 16);
+    v = (v >> 32) | (v << 32);
+    return int64_t(v >> (64 - bits));
+}
+
 // Direct transform of 2^m points, m <= 5, natural order in and out. Every
 // input is read before any output is written, so src may equal dst.
 template <class S> void direct_interleaved(int m, bool inverse, bool scaled, S scale, const S* src, S* dst);
@@ -24,6 +38,16 @@ template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw)
 // The same in 32f with each row held as [re0 re1 re2 re3 im0 im1 im2 im3]:
 // the four transforms then run in SSE2 lanes without shuffles.
 template <bool Inverse> void radix4_rows4_soa(float* d, int64_t R, const float* tw);
+
+// The rows of the two-factor step straight from the source, 32f: the R = N / M
+// rows of length M (M <= kSoaRowsMax) read through the bit reversal eight at
+// a time, transformed four side by side in SSE2 lanes (radix4_rows4_soa on a
+// local block), scaled when scaled is set, and written to their places in
+// dst. The same operations on every value as the bit reversal followed by
+// the one-row kernel and the scale pass.
+constexpr int64_t kSoaRowsMax = 256;
+template <bool Inverse>
+void rows_soa_from_src(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled, float scale);
 
 // The interleaved kernel split in two: its first pass (stage one with the
 // span-8 or span-16 stage, by the parity of the order of L) fused with the

@@ -32,6 +32,18 @@ inline __m128 load2(const float* a, const float* b)
                         reinterpret_cast<const __m64*>(b));
 }
 
+// Four registers of four floats transposed: row k of the input becomes
+// column k of the output.
+inline void transpose4(__m128& r0, __m128& r1, __m128& r2, __m128& r3)
+{
+    const __m128 t0 = _mm_unpacklo_ps(r0, r1), t1 = _mm_unpacklo_ps(r2, r3);
+    const __m128 t2 = _mm_unpackhi_ps(r0, r1), t3 = _mm_unpackhi_ps(r2, r3);
+    r0 = _mm_movelh_ps(t0, t1);
+    r1 = _mm_movehl_ps(t1, t0);
+    r2 = _mm_movelh_ps(t2, t3);
+    r3 = _mm_movehl_ps(t3, t2);
+}
+
 // ---- 64f: [re im] ---------------------------------------------------------
 
 inline __m128d swap_ri(__m128d x) { return _mm_shuffle_pd(x, x, 1); }

@@ -209,6 +209,57 @@ template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
     }
 }
 
+// The rows of the two-factor step from the source (see fft_kernels.h). Rows
+// rev(j) .. rev(j + 7) read the source columns j .. j + 7, which for each
+// place p are eight neighbouring values (one cache line); the reads walk the
+// source in order and the places go to p = rev(q) of two local blocks of
+// four rows each.
+template <bool Inv>
+void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled, float scale)
+{
+    const int64_t R = N / M;
+    int F = 0;
+    while ((int64_t(1) << F) < R) ++F;
+    alignas(64) float blk[2][kSoaRowsMax * 8];
+    const __m128 s = _mm_set1_ps(scale);
+    for (int64_t j = 0; j < R; j += 8) {
+        int64_t p = 0; // rev(q) over log2(M) bits
+        for (int64_t q = 0; q < M; ++q) {
+            const float* x = src + 2 * (q * R + j);
+            const __m128 a = _mm_loadu_ps(x), b = _mm_loadu_ps(x + 4), c = _mm_loadu_ps(x + 8), e = _mm_loadu_ps(x + 12);
+            _mm_store_ps(blk[0] + 8 * p, _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)));
+            _mm_store_ps(blk[0] + 8 * p + 4, _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
+            _mm_store_ps(blk[1] + 8 * p, _mm_shuffle_ps(c, e, _MM_SHUFFLE(2, 0, 2, 0)));
+            _mm_store_ps(blk[1] + 8 * p + 4, _mm_shuffle_ps(c, e, _MM_SHUFFLE(3, 1, 3, 1)));
+            int64_t bit = M / 2;
+            while (p & bit) p ^= bit, bit >>= 1;
+            p |= bit;
+        }
+        for (int h = 0; h < 2; ++h) {
+            float* d = blk[h];
+            rows4_soa_32fc<Inv>(d, M, tw);
+            float* row[4];
+            for (int u = 0; u < 4; ++u) row[u] = dst + 2 * M * rev_bits(j + 4 * h + u, F);
+            for (int64_t k = 0; k < M; k += 2) {
+                __m128 r0 = _mm_load_ps(d + 8 * k), i0 = _mm_load_ps(d + 8 * k + 4);
+                __m128 r1 = _mm_load_ps(d + 8 * k + 8), i1 = _mm_load_ps(d + 8 * k + 12);
+                if (scaled) {
+                    r0 = _mm_mul_ps(r0, s);
+                    i0 = _mm_mul_ps(i0, s);
+                    r1 = _mm_mul_ps(r1, s);
+                    i1 = _mm_mul_ps(i1, s);
+                }
+                // Row u's values k and k + 1: [re im re im].
+                transpose4(r0, i0, r1, i1);
+                _mm_storeu_ps(row[0] + 2 * k, r0);
+                _mm_storeu_ps(row[1] + 2 * k, i0);
+                _mm_storeu_ps(row[2] + 2 * k, r1);
+                _mm_storeu_ps(row[3] + 2 * k, i1);
+            }
+        }
+    }
+}
+
 } // namespace
 
 template <> void radix4_rows4<float, false>(float* d, int64_t R, const float* tw) { rows4_32fc<false>(d, R, tw); }
@@ -217,5 +268,18 @@ template <> void radix4_rows4<double, false>(double* d, int64_t R, const double*
 template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<true>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<true>(d, R, tw); }
 template <> void radix4_rows4<double, true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
+
+template <>
+void rows_soa_from_src<false>(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled,
+                              float scale)
+{
+    rows_from_src<false>(src, dst, N, M, tw, scaled, scale);
+}
+template <>
+void rows_soa_from_src<true>(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled,
+                             float scale)
+{
+    rows_from_src<true>(src, dst, N, M, tw, scaled, scale);
+}
 
 } // namespace tavs::fft

@@ -263,6 +263,14 @@ template <class S, bool Inv, class V> struct Large {
         const int F = first_factor_bits<S>(m);
         const int64_t R = int64_t(1) << F, M = int64_t(1) << (m - F);
         for (int64_t r = 0; r < R; ++r) row(v.at(r * M), m - F, level + 1);
+        columns_pass(v, m, level);
+    }
+
+    // The column half of the two-factor step.
+    void columns_pass(V v, int m, int level) const
+    {
+        const int F = first_factor_bits<S>(m);
+        const int64_t R = int64_t(1) << F, M = int64_t(1) << (m - F);
         const S* cols = spec->levelColumns[level];
         const S* r4 = spec->levelRadixFour[level];
         // The scatter of columns c .. c+3 and the gather of c+4 .. c+7 share
@@ -316,6 +324,19 @@ void complex_interleaved(const FloatSpec<S>* spec, int m, bool inverse, bool sca
     // In place: the swap list. Out of place: the bit reversal fused with the
     // kernel's first pass, which reads every block straight from src.
     const bool fused = src != dst;
+    if constexpr (sizeof(S) == 4) {
+        // Out of place with short rows: the rows run four side by side
+        // straight from the source, then the columns.
+        const int F = first_factor_bits<S>(m);
+        if (fused && F != 0 && (N >> F) <= kSoaRowsMax) {
+            if (inverse) rows_soa_from_src<true>(src, dst, N, N >> F, spec->radixFour, scaled, scale);
+            else rows_soa_from_src<false>(src, dst, N, N >> F, spec->radixFour, scaled, scale);
+            S* w = reinterpret_cast<S*>(work);
+            if (inverse) Large<S, true, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
+            else Large<S, false, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
+            return;
+        }
+    }
     if (!fused) permute_in_place(reinterpret_cast<C*>(dst), spec->swapList, N);
     else if (inverse) permute_first_pass<S, true>(src, dst, N, innermost_length<S>(m), spec->radixFour);
     else permute_first_pass<S, false>(src, dst, N, innermost_length<S>(m), spec->radixFour);

@@ -37,18 +37,6 @@ inline int first_block(int64_t L) { return (L & 0xAAAAAAAAAAAAAAAAll) ? 8 : (L >
 // no shuffles. The first pass writes that form, the last stage writes the
 // interleaved form back.
 
-// Four registers of four floats transposed: row k of the input becomes
-// column k of the output.
-inline void transpose4(__m128& r0, __m128& r1, __m128& r2, __m128& r3)
-{
-    const __m128 t0 = _mm_unpacklo_ps(r0, r1), t1 = _mm_unpacklo_ps(r2, r3);
-    const __m128 t2 = _mm_unpackhi_ps(r0, r1), t3 = _mm_unpackhi_ps(r2, r3);
-    r0 = _mm_movelh_ps(t0, t1);
-    r1 = _mm_movehl_ps(t1, t0);
-    r2 = _mm_movelh_ps(t2, t3);
-    r3 = _mm_movehl_ps(t3, t2);
-}
-
 // Quarter m of a block (values 4m .. 4m+3 in the four registers x[0..3],
 // each [re im] of block a then of block b) stored in the [re x4, im x4]
 // form of both blocks.
