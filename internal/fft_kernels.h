@@ -39,15 +39,17 @@ template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw)
 // the four transforms then run in SSE2 lanes without shuffles.
 template <bool Inverse> void radix4_rows4_soa(float* d, int64_t R, const float* tw);
 
-// The rows of the two-factor step straight from the source, 32f: the R = N / M
-// rows of length M (M <= kSoaRowsMax) read through the bit reversal eight at
-// a time, transformed four side by side in SSE2 lanes (radix4_rows4_soa on a
-// local block), scaled when scaled is set, and written to their places in
-// dst. The same operations on every value as the bit reversal followed by
-// the one-row kernel and the scale pass.
-constexpr int64_t kSoaRowsMax = 256;
+// The rows of the two-factor step in 32f, R = N / M rows of length M
+// (M <= kSoaRowsMax), four side by side in SSE2 lanes (radix4_rows4_soa on a
+// local block of kSoaRowsFloats), scaled when scaled is set. The same
+// operations on every value as the one-row kernel and the scale pass.
+// From the source: the rows read through the bit reversal, written to dst.
+// In place: on rows already in bit-reversed order.
+constexpr int64_t kSoaRowsFloats = 4096; // 16 KB of stack
+constexpr int64_t kSoaRowsMax = kSoaRowsFloats / 8;
 template <bool Inverse>
 void rows_soa_from_src(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled, float scale);
+template <bool Inverse> void rows_soa_in_place(float* d, int64_t N, int64_t M, const float* tw, bool scaled, float scale);
 
 // The interleaved kernel split in two: its first pass (stage one with the
 // span-8 or span-16 stage, by the parity of the order of L) fused with the

@@ -209,54 +209,89 @@ template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
     }
 }
 
-// The rows of the two-factor step from the source (see fft_kernels.h). Rows
-// rev(j) .. rev(j + 7) read the source columns j .. j + 7, which for each
-// place p are eight neighbouring values (one cache line); the reads walk the
-// source in order and the places go to p = rev(q) of two local blocks of
-// four rows each.
+// Four rows held side by side in blk (place k as [re x4, im x4]): the
+// kernel on all four, the scale, and each row written back to its place,
+// two values of a row at a time.
+template <bool Inv>
+void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool scaled, float scale)
+{
+    rows4_soa_32fc<Inv>(blk, M, tw);
+    const __m128 s = _mm_set1_ps(scale);
+    for (int64_t k = 0; k < M; k += 2) {
+        __m128 r0 = _mm_load_ps(blk + 8 * k), i0 = _mm_load_ps(blk + 8 * k + 4);
+        __m128 r1 = _mm_load_ps(blk + 8 * k + 8), i1 = _mm_load_ps(blk + 8 * k + 12);
+        if (scaled) {
+            r0 = _mm_mul_ps(r0, s);
+            i0 = _mm_mul_ps(i0, s);
+            r1 = _mm_mul_ps(r1, s);
+            i1 = _mm_mul_ps(i1, s);
+        }
+        // Row u's values k and k + 1: [re im re im].
+        transpose4(r0, i0, r1, i1);
+        _mm_storeu_ps(row[0] + 2 * k, r0);
+        _mm_storeu_ps(row[1] + 2 * k, i0);
+        _mm_storeu_ps(row[2] + 2 * k, r1);
+        _mm_storeu_ps(row[3] + 2 * k, i1);
+    }
+}
+
+inline int log2_of(int64_t n)
+{
+    int b = 0;
+    while ((int64_t(1) << b) < n) ++b;
+    return b;
+}
+
+// Out of place (see fft_kernels.h). Rows rev(j) .. rev(j + G - 1) read the
+// source columns j .. j + G - 1, which for each place are G neighbouring
+// values (eight: one cache line); the reads walk the source in order and
+// the places go to p = rev(q) of the local blocks of four rows each.
 template <bool Inv>
 void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled, float scale)
 {
     const int64_t R = N / M;
-    int F = 0;
-    while ((int64_t(1) << F) < R) ++F;
-    alignas(64) float blk[2][kSoaRowsMax * 8];
-    const __m128 s = _mm_set1_ps(scale);
-    for (int64_t j = 0; j < R; j += 8) {
+    const int F = log2_of(R);
+    const int G = M * 16 <= kSoaRowsFloats ? 8 : 4; // rows a group
+    alignas(64) float blk[kSoaRowsFloats];
+    for (int64_t j = 0; j < R; j += G) {
         int64_t p = 0; // rev(q) over log2(M) bits
         for (int64_t q = 0; q < M; ++q) {
             const float* x = src + 2 * (q * R + j);
-            const __m128 a = _mm_loadu_ps(x), b = _mm_loadu_ps(x + 4), c = _mm_loadu_ps(x + 8), e = _mm_loadu_ps(x + 12);
-            _mm_store_ps(blk[0] + 8 * p, _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)));
-            _mm_store_ps(blk[0] + 8 * p + 4, _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
-            _mm_store_ps(blk[1] + 8 * p, _mm_shuffle_ps(c, e, _MM_SHUFFLE(2, 0, 2, 0)));
-            _mm_store_ps(blk[1] + 8 * p + 4, _mm_shuffle_ps(c, e, _MM_SHUFFLE(3, 1, 3, 1)));
+            for (int h = 0; h < G / 4; ++h) {
+                const __m128 a = _mm_loadu_ps(x + 8 * h), b = _mm_loadu_ps(x + 8 * h + 4);
+                float* o = blk + h * 8 * M + 8 * p;
+                _mm_store_ps(o, _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)));
+                _mm_store_ps(o + 4, _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
+            }
             int64_t bit = M / 2;
             while (p & bit) p ^= bit, bit >>= 1;
             p |= bit;
         }
-        for (int h = 0; h < 2; ++h) {
-            float* d = blk[h];
-            rows4_soa_32fc<Inv>(d, M, tw);
+        for (int h = 0; h < G / 4; ++h) {
             float* row[4];
             for (int u = 0; u < 4; ++u) row[u] = dst + 2 * M * rev_bits(j + 4 * h + u, F);
-            for (int64_t k = 0; k < M; k += 2) {
-                __m128 r0 = _mm_load_ps(d + 8 * k), i0 = _mm_load_ps(d + 8 * k + 4);
-                __m128 r1 = _mm_load_ps(d + 8 * k + 8), i1 = _mm_load_ps(d + 8 * k + 12);
-                if (scaled) {
-                    r0 = _mm_mul_ps(r0, s);
-                    i0 = _mm_mul_ps(i0, s);
-                    r1 = _mm_mul_ps(r1, s);
-                    i1 = _mm_mul_ps(i1, s);
-                }
-                // Row u's values k and k + 1: [re im re im].
-                transpose4(r0, i0, r1, i1);
-                _mm_storeu_ps(row[0] + 2 * k, r0);
-                _mm_storeu_ps(row[1] + 2 * k, i0);
-                _mm_storeu_ps(row[2] + 2 * k, r1);
-                _mm_storeu_ps(row[3] + 2 * k, i1);
-            }
+            rows4_out<Inv>(blk + h * 8 * M, row, M, tw, scaled, scale);
         }
+    }
+}
+
+// In place on rows already in bit-reversed order: four neighbouring rows
+// at a time into the local block and back.
+template <bool Inv> void rows_in_place(float* d, int64_t N, int64_t M, const float* tw, bool scaled, float scale)
+{
+    alignas(64) float blk[kSoaRowsFloats];
+    for (int64_t r = 0; r < N / M; r += 4) {
+        float* const row[4] = {d + 2 * M * r, d + 2 * M * (r + 1), d + 2 * M * (r + 2), d + 2 * M * (r + 3)};
+        for (int64_t k = 0; k < M; k += 2) {
+            __m128 a = _mm_loadu_ps(row[0] + 2 * k), b = _mm_loadu_ps(row[1] + 2 * k);
+            __m128 c = _mm_loadu_ps(row[2] + 2 * k), e = _mm_loadu_ps(row[3] + 2 * k);
+            transpose4(a, b, c, e);
+            _mm_store_ps(blk + 8 * k, a);
+            _mm_store_ps(blk + 8 * k + 4, b);
+            _mm_store_ps(blk + 8 * k + 8, c);
+            _mm_store_ps(blk + 8 * k + 12, e);
+        }
+        rows4_out<Inv>(blk, row, M, tw, scaled, scale);
     }
 }
 
@@ -280,6 +315,14 @@ void rows_soa_from_src<true>(const float* src, float* dst, int64_t N, int64_t M,
                              float scale)
 {
     rows_from_src<true>(src, dst, N, M, tw, scaled, scale);
+}
+template <> void rows_soa_in_place<false>(float* d, int64_t N, int64_t M, const float* tw, bool scaled, float scale)
+{
+    rows_in_place<false>(d, N, M, tw, scaled, scale);
+}
+template <> void rows_soa_in_place<true>(float* d, int64_t N, int64_t M, const float* tw, bool scaled, float scale)
+{
+    rows_in_place<true>(d, N, M, tw, scaled, scale);
 }
 
 } // namespace tavs::fft

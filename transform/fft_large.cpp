@@ -307,6 +307,31 @@ template <class S> int64_t innermost_length(int m)
     return m > 10 ? 1024 : int64_t(1) << m;
 }
 
+// One level of rows short enough for the local block (32f): the rows run
+// four side by side, straight from the source when src is given (else in
+// place on dst, already in bit-reversed order), then the columns.
+template <class S> bool soa_rows_fit(int m)
+{
+    const int F = first_factor_bits<S>(m);
+    return sizeof(S) == 4 && F != 0 && (int64_t(1) << (m - F)) <= kSoaRowsMax;
+}
+template <class S>
+void soa_two_factor(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* src, S* dst,
+                    unsigned char* work)
+{
+    if constexpr (sizeof(S) == 4) {
+        const int64_t N = int64_t(1) << m, M = N >> first_factor_bits<S>(m);
+        const float* tw = spec->radixFour;
+        if (src && inverse) rows_soa_from_src<true>(src, dst, N, M, tw, scaled, scale);
+        else if (src) rows_soa_from_src<false>(src, dst, N, M, tw, scaled, scale);
+        else if (inverse) rows_soa_in_place<true>(dst, N, M, tw, scaled, scale);
+        else rows_soa_in_place<false>(dst, N, M, tw, scaled, scale);
+        S* w = reinterpret_cast<S*>(work);
+        if (inverse) Large<S, true, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
+        else Large<S, false, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
+    }
+}
+
 template <class S> using Cplx = std::conditional_t<sizeof(S) == 4, Tav32fc, Tav64fc>;
 
 } // namespace
@@ -324,18 +349,10 @@ void complex_interleaved(const FloatSpec<S>* spec, int m, bool inverse, bool sca
     // In place: the swap list. Out of place: the bit reversal fused with the
     // kernel's first pass, which reads every block straight from src.
     const bool fused = src != dst;
-    if constexpr (sizeof(S) == 4) {
-        // Out of place with short rows: the rows run four side by side
-        // straight from the source, then the columns.
-        const int F = first_factor_bits<S>(m);
-        if (fused && F != 0 && (N >> F) <= kSoaRowsMax) {
-            if (inverse) rows_soa_from_src<true>(src, dst, N, N >> F, spec->radixFour, scaled, scale);
-            else rows_soa_from_src<false>(src, dst, N, N >> F, spec->radixFour, scaled, scale);
-            S* w = reinterpret_cast<S*>(work);
-            if (inverse) Large<S, true, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
-            else Large<S, false, Inter<S>>{spec, scaled, scale, w, true}.columns_pass(Inter<S>{dst}, m, 0);
-            return;
-        }
+    if (soa_rows_fit<S>(m)) {
+        if (!fused) permute_in_place(reinterpret_cast<C*>(dst), spec->swapList, N);
+        soa_two_factor<S>(spec, m, inverse, scaled, scale, fused ? src : nullptr, dst, work);
+        return;
     }
     if (!fused) permute_in_place(reinterpret_cast<C*>(dst), spec->swapList, N);
     else if (inverse) permute_first_pass<S, true>(src, dst, N, innermost_length<S>(m), spec->radixFour);
@@ -352,7 +369,8 @@ template <class S>
 void complex_interleaved_reversed(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, S* d,
                                   unsigned char* work)
 {
-    if (inverse) run<S, true>(spec, m, scaled, scale, Inter<S>{d}, work, false);
+    if (soa_rows_fit<S>(m)) soa_two_factor<S>(spec, m, inverse, scaled, scale, nullptr, d, work);
+    else if (inverse) run<S, true>(spec, m, scaled, scale, Inter<S>{d}, work, false);
     else run<S, false>(spec, m, scaled, scale, Inter<S>{d}, work, false);
 }
 template void complex_interleaved_reversed<float>(const FloatSpec<float>*, int, bool, bool, float, float*,
