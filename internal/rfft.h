@@ -25,6 +25,11 @@ template <class S> void real_post_step(const FloatSpec<S>* spec, S* d);
 // N/2 - 1 at src[2k], src[2k + 1] (Perm and CCS both) becomes the doubled
 // half-length spectrum in d. src may equal d. order >= 6.
 template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, S* d);
+// The same for src distinct from d (no overlap), with every value written
+// straight into its place in the bit reversal of the half length, ready for
+// the complex inverse without a permutation pass. The pairs are read at
+// src[2k + off], src[2k + 1 + off] (off -1 reads Pack). order >= 7.
+template <class S> void real_pre_step_reversed(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d);
 
 // The transforms behind the exported bodies, after the argument checks:
 // the work buffer, the transform, the layout step. The only failure is
