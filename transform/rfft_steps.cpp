@@ -108,7 +108,7 @@ template <class S> void real_post_step(const FloatSpec<S>* spec, S* d)
 template void real_post_step<float>(const FloatSpec<float>*, float*);
 template void real_post_step<double>(const FloatSpec<double>*, double*);
 
-template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, S* d)
+template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d)
 {
     const int64_t M = int64_t(1) << (spec->order - 1);
     const S* tw = spec->realInv;
@@ -117,8 +117,8 @@ template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, cons
     // The pairs never touch slots 0, 1, M, M + 1.
     auto body = [&]<class V>(int64_t k) {
         V a, b, c, e, p, q, fr, fi, mr, mi;
-        V::load_fwd(src + 2 * k, a, b);
-        V::load_rev(src + 2 * (M - k), c, e);
+        V::load_fwd(src + (2 * k + off), a, b);
+        V::load_rev(src + (2 * (M - k) + off), c, e);
         inverse_twiddle<S>(tw, two, k, p, q);
         pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
         V::store_fwd(d + 2 * k, fr, fi);
@@ -130,11 +130,11 @@ template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, cons
         over_pairs<S>(base == 0 ? 1 : base, base + B < M / 2 ? base + B : M / 2, body);
     d[0] = s0 + s1;
     d[1] = s0 - s1;
-    d[M] = S(2) * src[M];
-    d[M + 1] = S(-2) * src[M + 1];
+    d[M] = S(2) * src[M + off];
+    d[M + 1] = S(-2) * src[M + 1 + off];
 }
-template void real_pre_step<float>(const FloatSpec<float>*, float, float, const float*, float*);
-template void real_pre_step<double>(const FloatSpec<double>*, double, double, const double*, double*);
+template void real_pre_step<float>(const FloatSpec<float>*, float, float, const float*, int, float*);
+template void real_pre_step<double>(const FloatSpec<double>*, double, double, const double*, int, double*);
 
 namespace {
 
