@@ -2,9 +2,14 @@
 // 32f and 64f, out of place and in place. Checks: record null, its tag,
 // the data pointers; then the work buffer. Orders up to 5 run the direct
 // real kernels; above, the half-length complex transform with the post-step
-// (forward) or the pre-step before it (inverse). The layout steps move the
-// two real values X[0], X[N/2] between the Perm slots and their places in
-// Pack and CCS.
+// (forward) or the pre-step before it (inverse). The inverse avoids a
+// separate bit-reversal pass: at small orders its pre-step goes to a stack
+// scratch block that the complex inverse reads through its fused bit
+// reversal; above, out of place, the pre-step writes straight into
+// bit-reversed order. The layout steps move the two real values X[0],
+// X[N/2] between the Perm slots and their places in Pack and CCS; the
+// inverse reads Pack through an index offset instead of moving it, except
+// in place at large orders.
 #include "internal/body.h"
 #include "internal/fft_spec_util.h"
 #include "internal/rfft.h"

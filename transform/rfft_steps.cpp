@@ -3,7 +3,9 @@
 // unscaled round trip gives N times the input, as the complex one does).
 // Each pairs index k with its mirror M - k; the pairs k = 1 .. M/2 - 1 run
 // in SSE2 lanes of four (32f) or two (64f) pairs, the tail one pair at a
-// time with the same operations.
+// time with the same operations. The pre-step also comes in a form that
+// writes each value into its bit-reversed place, for the complex inverse
+// that then runs without a permutation pass.
 #include "internal/body.h"
 #include "internal/rfft.h"
 #include "internal/rfft_lanes.h"
