@@ -22,9 +22,14 @@ template <class S> void real_direct_inv(int order, bool scaled, S scale, S* d);
 template <class S> void real_post_step(const FloatSpec<S>* spec, S* d);
 
 // Pre-step: the spectrum with X[0] = s0, X[N/2] = s1 and the pairs k = 1 ..
-// N/2 - 1 at src[2k], src[2k + 1] (Perm and CCS both) becomes the doubled
-// half-length spectrum in d. src may equal d. order >= 6.
-template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, S* d);
+// N/2 - 1 at src[2k + off], src[2k + 1 + off] (off 0 for Perm and CCS, -1
+// for Pack) becomes the doubled half-length spectrum in d. src may equal d
+// when off is 0. order >= 6.
+template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d);
+// The same for src distinct from d (no overlap), with every value written
+// straight into its place in the bit reversal of the half length, ready for
+// the complex inverse without a permutation pass. order >= 7.
+template <class S> void real_pre_step_reversed(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d);
 
 // The transforms behind the exported bodies, after the argument checks:
 // the work buffer, the transform, the layout step. The only failure is

@@ -21,6 +21,12 @@ template <class S> struct One {
     static void load_rev(const S* p, One& re, One& im) { re.v = p[0], im.v = p[1]; }
     static void store_fwd(S* p, One re, One im) { p[0] = re.v, p[1] = im.v; }
     static void store_rev(S* p, One re, One im) { p[0] = re.v, p[1] = im.v; }
+    // Lane j to the complex slot at at(j) (scattered stores).
+    template <class At> static void store_each(At at, One re, One im)
+    {
+        S* p = at(0);
+        p[0] = re.v, p[1] = im.v;
+    }
 };
 template <class S> inline One<S> operator+(One<S> a, One<S> b) { return {a.v + b.v}; }
 template <class S> inline One<S> operator-(One<S> a, One<S> b) { return {a.v - b.v}; }
@@ -57,6 +63,14 @@ struct F4 {
         _mm_storeu_ps(p - 2, _mm_shuffle_ps(l01, l01, _MM_SHUFFLE(1, 0, 3, 2)));
         _mm_storeu_ps(p - 6, _mm_shuffle_ps(l23, l23, _MM_SHUFFLE(1, 0, 3, 2)));
     }
+    template <class At> static void store_each(At at, F4 re, F4 im)
+    {
+        const __m128 l01 = _mm_unpacklo_ps(re.v, im.v), l23 = _mm_unpackhi_ps(re.v, im.v);
+        _mm_storel_pi(reinterpret_cast<__m64*>(at(0)), l01);
+        _mm_storeh_pi(reinterpret_cast<__m64*>(at(1)), l01);
+        _mm_storel_pi(reinterpret_cast<__m64*>(at(2)), l23);
+        _mm_storeh_pi(reinterpret_cast<__m64*>(at(3)), l23);
+    }
 };
 inline F4 operator+(F4 a, F4 b) { return {_mm_add_ps(a.v, b.v)}; }
 inline F4 operator-(F4 a, F4 b) { return {_mm_sub_ps(a.v, b.v)}; }
@@ -88,6 +102,11 @@ struct D2 {
     {
         _mm_storeu_pd(p, _mm_unpacklo_pd(re.v, im.v));
         _mm_storeu_pd(p - 2, _mm_unpackhi_pd(re.v, im.v));
+    }
+    template <class At> static void store_each(At at, D2 re, D2 im)
+    {
+        _mm_storeu_pd(at(0), _mm_unpacklo_pd(re.v, im.v));
+        _mm_storeu_pd(at(1), _mm_unpackhi_pd(re.v, im.v));
     }
 };
 inline D2 operator+(D2 a, D2 b) { return {_mm_add_pd(a.v, b.v)}; }

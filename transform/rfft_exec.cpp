@@ -2,9 +2,14 @@
 // 32f and 64f, out of place and in place. Checks: record null, its tag,
 // the data pointers; then the work buffer. Orders up to 5 run the direct
 // real kernels; above, the half-length complex transform with the post-step
-// (forward) or the pre-step before it (inverse). The layout steps move the
-// two real values X[0], X[N/2] between the Perm slots and their places in
-// Pack and CCS.
+// (forward) or the pre-step before it (inverse). The inverse avoids a
+// separate bit-reversal pass: at small orders its pre-step goes to a stack
+// scratch block that the complex inverse reads through its fused bit
+// reversal; above, out of place, the pre-step writes straight into
+// bit-reversed order. The layout steps move the two real values X[0],
+// X[N/2] between the Perm slots and their places in Pack and CCS; the
+// inverse reads Pack through an index offset instead of moving it, except
+// in place at large orders.
 #include "internal/body.h"
 #include "internal/fft_spec_util.h"
 #include "internal/rfft.h"
@@ -33,6 +38,10 @@ template <class S> void perm_to_layout(RealLayout lay, S* d, int64_t N)
         d[1] = 0;
     }
 }
+
+// Bytes of the stack scratch of the inverse at small orders: the half-length
+// spectrum of 2048 floats (order 11) or 1024 doubles (order 10).
+constexpr int64_t kScratchBytes = 8192;
 
 // Pack in src to Perm in d (src may equal d).
 template <class S> void pack_to_perm(const S* src, S* d, int64_t N)
@@ -72,6 +81,28 @@ template <class S> Status real_inverse(const FloatSpec<S>* spec, RealLayout lay,
     const int order = spec->order;
     const int64_t N = int64_t(1) << order;
     const bool scaled = spec->invScales != 0;
+    if (order >= 7) {
+        const int off = lay == RealLayout::Pack ? -1 : 0;
+        const S s0 = src[0], s1 = lay == RealLayout::Pack ? src[N - 1] : lay == RealLayout::CCS ? src[N] : src[1];
+        if (N * int64_t(sizeof(S)) <= kScratchBytes) {
+            // Small orders: the pre-step in natural order into a scratch
+            // block on the stack, then the complex inverse from there, whose
+            // bit reversal is fused with its first pass. In place this is
+            // safe too: the whole source is read before dst is written.
+            alignas(64) S scratch[kScratchBytes / sizeof(S)];
+            real_pre_step<S>(spec, s0, s1, src, off, scratch);
+            complex_interleaved<S>(spec, order - 1, true, scaled, spec->scale.value, scratch, dst, wb.get());
+            return StatusOk;
+        }
+        if (src != dst) {
+            // Out of place: the pre-step puts its values straight into their
+            // bit-reversed places, so the complex inverse needs no
+            // permutation pass.
+            real_pre_step_reversed<S>(spec, s0, s1, src, off, dst);
+            complex_interleaved_reversed<S>(spec, order - 1, true, scaled, spec->scale.value, dst, wb.get());
+            return StatusOk;
+        }
+    }
     if (lay == RealLayout::Pack) {
         // Pack is read after a move into Perm order, in place on dst.
         pack_to_perm(src, dst, N);
@@ -86,7 +117,7 @@ template <class S> Status real_inverse(const FloatSpec<S>* spec, RealLayout lay,
         real_direct_inv<S>(order, scaled, spec->scale.value, dst);
         return StatusOk;
     }
-    real_pre_step<S>(spec, s0, s1, src, dst);
+    real_pre_step<S>(spec, s0, s1, src, 0, dst);
     complex_interleaved<S>(spec, order - 1, true, scaled, spec->scale.value, dst, dst, wb.get());
     return StatusOk;
 }
