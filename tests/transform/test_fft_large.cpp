@@ -42,6 +42,20 @@ TEST(LargeOrders, PathCrossingsWithEveryFlag)
         }
 }
 
+// 32fc orders whose rows (256 or 512 points) run four side by side, read
+// through the bit reversal out of place and turned in place: every flag in
+// both directions, the scale applied on the way out of the rows.
+TEST(LargeOrders, RowsFourAtATimeWithEveryFlag)
+{
+    for (int order : {14, 15, 16, 17, 19}) {
+        if (order > ft::kMaxTestedOrder) continue;
+        for (bool inv : {false, true}) {
+            const ft::Case c = ft::make_case(order, inv);
+            for (int flag : {ScaleFwdByLen, ScaleInvByLen, ScaleBothBySqrtLen}) ft::check_case<ft::L32fc>(c, flag);
+        }
+    }
+}
+
 } // namespace
 
 // ---- orders 23 and up ---------------------------------------------------------
