@@ -8,6 +8,7 @@
 // that then runs without a permutation pass.
 #include "internal/body.h"
 #include "internal/rfft.h"
+#include "internal/fft_kernels.h"
 #include "internal/rfft_lanes.h"
 
 namespace tavs::fft {
@@ -140,18 +141,6 @@ template void real_pre_step<double>(const FloatSpec<double>*, double, double, co
 
 namespace {
 
-// The low `bits` bits of x in reverse order (1 <= bits <= 31).
-inline int64_t reverse_bits(int64_t v, int bits)
-{
-    uint32_t x = uint32_t(v);
-    x = ((x >> 1) & 0x55555555u) | ((x & 0x55555555u) << 1);
-    x = ((x >> 2) & 0x33333333u) | ((x & 0x33333333u) << 2);
-    x = ((x >> 4) & 0x0F0F0F0Fu) | ((x & 0x0F0F0F0Fu) << 4);
-    x = ((x >> 8) & 0x00FF00FFu) | ((x & 0x00FF00FFu) << 8);
-    x = (x >> 16) | (x << 16);
-    return int64_t(x >> (32 - bits));
-}
-
 // The reversal of a 4-bit index.
 constexpr int kRev4[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
 
@@ -203,7 +192,7 @@ template <class S, bool Two> void pre_step_reversed(const FloatSpec<S>* spec, co
     // Complex j of the source and its mirror M - j.
     auto x = [&](int64_t j) { return src + (2 * j + off); };
     auto y = [&](int64_t j) { return src + (2 * (M - j) + off); };
-    auto blk = [&](int64_t j) { return d + 32 * reverse_bits(j & (step - 1), bits); };
+    auto blk = [&](int64_t j) { return d + 32 * rev_bits(j & (step - 1), bits); };
     auto group = [&](int64_t j0) {
         if (j0 != 0) {
             reversed_group<S, V, Two, false>(x(j0), y(j0), tw, step, j0, 0, blk(j0), blk(step - j0), blk(step - j0 - W));
