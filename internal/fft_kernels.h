@@ -21,6 +21,18 @@ inline int64_t rev_bits(int64_t x, int bits)
     return int64_t(v >> (64 - bits));
 }
 
+// cos(2 pi e / 32) for e = 0 .. 8: the inline constants of the direct
+// kernels, complex and real.
+inline constexpr double kCos32[9] = {1.0,
+                                     0.98078528040323044912618223613424,
+                                     0.92387953251128675612818318939679,
+                                     0.83146961230254523707878837761791,
+                                     0.70710678118654752440084436210485,
+                                     0.55557023301960222474283081394853,
+                                     0.38268343236508977172845998403040,
+                                     0.19509032201612826784828486847702,
+                                     0.0};
+
 // Direct transform of 2^m points, m <= 5, natural order in and out. Every
 // input is read before any output is written, so src may equal dst.
 template <class S> void direct_interleaved(int m, bool inverse, bool scaled, S scale, const S* src, S* dst);
@@ -33,8 +45,8 @@ template <class S, bool Inverse> void radix4_interleaved(S* d, int64_t N, const 
 template <class S, bool Inverse> void radix4_split(S* re, S* im, int64_t N, const S* tw);
 
 // Four transforms of length R side by side: d holds R rows of four complex
-// values (64-byte aligned), column j of the rows being transform j.
-template <class S, bool Inverse> void radix4_rows4(S* d, int64_t R, const S* tw);
+// values (64-byte aligned), column j of the rows being transform j (64f).
+template <bool Inverse> void radix4_rows4(double* d, int64_t R, const double* tw);
 // The same in 32f with each row held as [re0 re1 re2 re3 im0 im1 im2 im3]:
 // the four transforms then run in SSE2 lanes without shuffles.
 template <bool Inverse> void radix4_rows4_soa(float* d, int64_t R, const float* tw);

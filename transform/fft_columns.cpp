@@ -12,65 +12,10 @@ using namespace simd;
 
 namespace {
 
-// The radix-4 kernel on R rows of four complex values: four transforms of
-// length R side by side, every step the same as in the one-column kernel,
-// with each twiddle (which depends on the row only) serving all four.
-template <bool Inv> void rows4_32fc(float* d, int64_t R, const float* tw)
-{
-    auto ld = [d](int64_t r, int h) { return _mm_load_ps(d + 8 * r + 4 * h); };
-    auto st = [d](int64_t r, int h, __m128 v) { _mm_store_ps(d + 8 * r + 4 * h, v); };
-    auto bcast = [](const float* t) {
-        const __m128 w = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(t)));
-        return prep<Inv>(_mm_movelh_ps(w, w));
-    };
-    for (int64_t i = 0; i < R; i += 4)
-        for (int h = 0; h < 2; ++h) {
-            __m128 x0, x1, x2, x3;
-            bfly4<Inv>(ld(i, h), ld(i + 1, h), ld(i + 2, h), ld(i + 3, h), x0, x1, x2, x3);
-            st(i, h, x0);
-            st(i + 1, h, x1);
-            st(i + 2, h, x2);
-            st(i + 3, h, x3);
-        }
-    int64_t span = 16;
-    if (R & 0xAAAAAAAAAAAAAAAAll) {
-        const float c = 0.70710677f;
-        const float w1v[2] = {c, -c}, w3v[2] = {-c, -c};
-        const Tw32 w1 = bcast(w1v), w3 = bcast(w3v);
-        for (int64_t i = 0; i < R; i += 8)
-            for (int h = 0; h < 2; ++h)
-                for (int k = 0; k < 4; ++k) {
-                    const __m128 e = ld(i + k, h);
-                    __m128 o = ld(i + 4 + k, h);
-                    if (k == 1) o = mul(o, w1);
-                    else if (k == 2) o = rot<Inv>(o);
-                    else if (k == 3) o = mul(o, w3);
-                    st(i + k, h, _mm_add_ps(e, o));
-                    st(i + 4 + k, h, _mm_sub_ps(e, o));
-                }
-        span = 32;
-    }
-    for (; span <= R; span *= 4) {
-        const int64_t q = span / 4, stride = 6 * (R / span);
-        for (int64_t k = 0; k < q; ++k) {
-            const float* t = tw + k * stride;
-            const Tw32 w1 = bcast(t), w2 = bcast(t + 2), w3 = bcast(t + 4);
-            for (int64_t b = k; b < R; b += span)
-                for (int h = 0; h < 2; ++h) {
-                    __m128 x0, x1, x2, x3;
-                    if (k == 0) bfly4<Inv>(ld(b, h), ld(b + q, h), ld(b + 2 * q, h), ld(b + 3 * q, h), x0, x1, x2, x3);
-                    else
-                        bfly4<Inv>(ld(b, h), mul(ld(b + q, h), w2), mul(ld(b + 2 * q, h), w1), mul(ld(b + 3 * q, h), w3),
-                                   x0, x1, x2, x3);
-                    st(b, h, x0);
-                    st(b + q, h, x1);
-                    st(b + 2 * q, h, x2);
-                    st(b + 3 * q, h, x3);
-                }
-        }
-    }
-}
-
+// The radix-4 kernel on R rows of four complex values (64f, one value a
+// register): four transforms of length R side by side, every step the same
+// as in the one-column kernel, with each twiddle (which depends on the row
+// only) serving all four.
 template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
 {
     auto ld = [d](int64_t r, int h) { return _mm_load_pd(d + 8 * r + 2 * h); };
@@ -297,12 +242,10 @@ template <bool Inv> void rows_in_place(float* d, int64_t N, int64_t M, const flo
 
 } // namespace
 
-template <> void radix4_rows4<float, false>(float* d, int64_t R, const float* tw) { rows4_32fc<false>(d, R, tw); }
-template <> void radix4_rows4<float, true>(float* d, int64_t R, const float* tw) { rows4_32fc<true>(d, R, tw); }
-template <> void radix4_rows4<double, false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
+template <> void radix4_rows4<false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<true>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<true>(d, R, tw); }
-template <> void radix4_rows4<double, true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
+template <> void radix4_rows4<true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
 
 template <>
 void rows_soa_from_src<false>(const float* src, float* dst, int64_t N, int64_t M, const float* tw, bool scaled,

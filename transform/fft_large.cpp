@@ -222,7 +222,7 @@ template <class S> inline void scatter_row(Split<S> v, int64_t q, int64_t M, int
 
 // The column transforms on the rows of the work buffer.
 template <bool Inv> inline void columns(float* w, int64_t R, const float* tw) { radix4_rows4_soa<Inv>(w, R, tw); }
-template <bool Inv> inline void columns(double* w, int64_t R, const double* tw) { radix4_rows4<double, Inv>(w, R, tw); }
+template <bool Inv> inline void columns(double* w, int64_t R, const double* tw) { radix4_rows4<Inv>(w, R, tw); }
 
 // ---- the large path -------------------------------------------------------------
 

@@ -8,17 +8,6 @@ namespace tavs::fft {
 
 namespace {
 
-// cos(2 pi e / 32) for e = 0 .. 8.
-constexpr double kCos32[9] = {1.0,
-                              0.98078528040323044912618223613424,
-                              0.92387953251128675612818318939679,
-                              0.83146961230254523707878837761791,
-                              0.70710678118654752440084436210485,
-                              0.55557023301960222474283081394853,
-                              0.38268343236508977172845998403040,
-                              0.19509032201612826784828486847702,
-                              0.0};
-
 // (cos, sin) of 2 pi e / 32 for e = 0 .. 15, rounded to S.
 template <class S> constexpr S cos32(int e) { return e <= 8 ? S(kCos32[e]) : S(-kCos32[16 - e]); }
 template <class S> constexpr S sin32(int e) { return e <= 8 ? S(kCos32[8 - e]) : S(kCos32[e - 8]); }
