@@ -105,13 +105,21 @@ template <class X> SrBuf<X> carve(Tav8u* buffer, int n, int per, int cap)
     return b;
 }
 
+// The checks of every SR call, in order: pointers, length, the block.
 template <class X>
-Status sr_run(const X* src, X* dst, int len, const void* spec, const X* dlySrc, X* dlyDst, Tav8u* buffer, int cap)
+Status sr_checks(const void* spec, const void* src, const void* dst, const Tav8u* buffer, int len, const SrSpec*& s)
 {
     if (any_null(spec, src, dst, buffer)) return ErrNullPtr;
     if (len < 1) return ErrSize;
-    const SrSpec* s = valid_spec<X>(spec);
-    if (s == nullptr) return ErrContextMismatch;
+    s = valid_spec<X>(spec);
+    return s ? StatusOk : ErrContextMismatch;
+}
+
+template <class X>
+Status sr_run(const X* src, X* dst, int len, const void* spec, const X* dlySrc, X* dlyDst, Tav8u* buffer, int cap)
+{
+    const SrSpec* s = nullptr;
+    if (const Status st = sr_checks<X>(spec, src, dst, buffer, len, s); st != StatusOk) return st;
     const int n = s->tapsLen;
     const X* rt = static_cast<const X*>(s->taps);
     if (src != dst && dst != dlySrc) {
@@ -136,10 +144,8 @@ Status sr_run(const X* src, X* dst, int len, const void* spec, const X* dlySrc, 
 template <class X, class D>
 Status sr_int(const D* src, D* dst, int len, const void* spec, const D* dlySrc, D* dlyDst, Tav8u* buffer, int cap)
 {
-    if (any_null(spec, src, dst, buffer)) return ErrNullPtr;
-    if (len < 1) return ErrSize;
-    const SrSpec* s = valid_spec<X>(spec);
-    if (s == nullptr) return ErrContextMismatch;
+    const SrSpec* s = nullptr;
+    if (const Status st = sr_checks<X>(spec, src, dst, buffer, len, s); st != StatusOk) return st;
     const int n = s->tapsLen;
     const X* rt = static_cast<const X*>(s->taps);
     SrBuf<X> b = carve<X>(buffer, n, 2, cap);
