@@ -8,6 +8,7 @@
 #include <cmath>
 #include <vector>
 
+#include "bench_util.h"
 #include "tavs.h"
 
 #ifdef TAVS_HAVE_FFTW3F
@@ -16,12 +17,7 @@
 
 namespace {
 
-int order_of(int64_t n)
-{
-    int o = 0;
-    while ((int64_t(1) << o) < n) ++o;
-    return o;
-}
+using bench::order_of;
 
 std::vector<float> real_signal(int64_t n)
 {

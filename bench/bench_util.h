@@ -34,6 +34,14 @@ template <class F> void timed_value(benchmark::State& state, int64_t items, F bo
     state.SetItemsProcessed(int64_t(state.iterations()) * items);
 }
 
+// log2 of a power of two: the order of a transform of n points.
+inline int order_of(int64_t n)
+{
+    int o = 0;
+    while ((int64_t(1) << o) < n) ++o;
+    return o;
+}
+
 // n elements on a 64-byte boundary, released with the buffer.
 template <class T> struct Buffer {
     explicit Buffer(size_t n) : p(static_cast<T*>(std::aligned_alloc(64, (n * sizeof(T) + 63) / 64 * 64))) {}
