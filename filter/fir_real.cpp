@@ -7,29 +7,12 @@
 namespace tag = tavs::fir::tag;
 using tavs::fir::State;
 
-TAVS_FIR_FLOAT_LIFE(_32f, FIRState_32f, Tav32f, Tav32f, Tav32f, tag::F32, tag::S32f)
-TAVS_FIR_FLOAT_DLY(_32f, FIRState_32f, Tav32f, Tav32f, tag::F32)
-TAVS_FIR_FLOAT_RUN(_32f, FIRState_32f, Tav32f, Tav32f, tag::F32, tag::S32f)
-
-TAVS_FIR_FLOAT_LIFE(_64f, FIRState_64f, Tav64f, Tav64f, Tav64f, tag::F64, 0)
-TAVS_FIR_FLOAT_DLY(_64f, FIRState_64f, Tav64f, Tav64f, tag::F64)
-TAVS_FIR_FLOAT_RUN(_64f, FIRState_64f, Tav64f, Tav64f, tag::F64, 0)
-
-TAVS_FIR_FLOAT_LIFE(64f_32f, FIRState64f_32f, Tav64f, Tav64f, Tav32f, tag::F64_32f, 0)
-TAVS_FIR_FLOAT_DLY(64f_32f, FIRState64f_32f, Tav64f, Tav32f, tag::F64_32f)
-TAVS_FIR_FLOAT_RUN(64f_32f, FIRState64f_32f, Tav64f, Tav32f, tag::F64_32f, 0)
-
-TAVS_FIR_FLOAT_LIFE(32f_16s, FIRState32f_16s, Tav32f, Tav32f, Tav16s, tag::F32_16s, 0)
-TAVS_FIR_FLOAT_DLY(32f_16s, FIRState32f_16s, Tav32f, Tav16s, tag::F32_16s)
-TAVS_FIR_FLOAT_RUN_SFS(32f_16s, FIRState32f_16s, Tav32f, Tav16s, tag::F32_16s)
-
-TAVS_FIR_FLOAT_LIFE(64f_16s, FIRState64f_16s, Tav64f, Tav64f, Tav16s, tag::F64_16s, 0)
-TAVS_FIR_FLOAT_DLY(64f_16s, FIRState64f_16s, Tav64f, Tav16s, tag::F64_16s)
-TAVS_FIR_FLOAT_RUN_SFS(64f_16s, FIRState64f_16s, Tav64f, Tav16s, tag::F64_16s)
-
-TAVS_FIR_FLOAT_LIFE(64f_32s, FIRState64f_32s, Tav64f, Tav64f, Tav32s, tag::F64_32s, 0)
-TAVS_FIR_FLOAT_DLY(64f_32s, FIRState64f_32s, Tav64f, Tav32s, tag::F64_32s)
-TAVS_FIR_FLOAT_RUN_SFS(64f_32s, FIRState64f_32s, Tav64f, Tav32s, tag::F64_32s)
+TAVS_FIR_FLOAT_KIND(_32f, FIRState_32f, Tav32f, Tav32f, tag::F32, tag::S32f)
+TAVS_FIR_FLOAT_KIND(_64f, FIRState_64f, Tav64f, Tav64f, tag::F64, 0)
+TAVS_FIR_FLOAT_KIND(64f_32f, FIRState64f_32f, Tav64f, Tav32f, tag::F64_32f, 0)
+TAVS_FIR_FLOAT_KIND_SFS(32f_16s, FIRState32f_16s, Tav32f, Tav16s, tag::F32_16s)
+TAVS_FIR_FLOAT_KIND_SFS(64f_16s, FIRState64f_16s, Tav64f, Tav16s, tag::F64_16s)
+TAVS_FIR_FLOAT_KIND_SFS(64f_32s, FIRState64f_32s, Tav64f, Tav32s, tag::F64_32s)
 
 // FIRState_32s: the same tag as FIRState64f_32s, with 32s taps widened to
 // 64f and no FFT.

@@ -124,3 +124,15 @@ template <class X, class D> Status fir_one(D x, D* y, State* s, int sf, int32_t 
     {                                                                                                             \
         return tavs::fir::fir_one<X, D>(src, pDstVal, tavs::fir::st_of(pState), scaleFactor, TAG);               \
     }
+
+// One floating kind whose taps come in the record's own element: its record
+// life, delay line and filter calls, on floating data (STREAM as for
+// TAVS_FIR_FLOAT_RUN) or on integer data with a scale factor (_SFS).
+#define TAVS_FIR_FLOAT_KIND(K, St, X, D, TAG, STREAM)                                                             \
+    TAVS_FIR_FLOAT_LIFE(K, St, X, X, D, TAG, STREAM)                                                              \
+    TAVS_FIR_FLOAT_DLY(K, St, X, D, TAG)                                                                          \
+    TAVS_FIR_FLOAT_RUN(K, St, X, D, TAG, STREAM)
+#define TAVS_FIR_FLOAT_KIND_SFS(K, St, X, D, TAG)                                                                 \
+    TAVS_FIR_FLOAT_LIFE(K, St, X, X, D, TAG, 0)                                                                   \
+    TAVS_FIR_FLOAT_DLY(K, St, X, D, TAG)                                                                          \
+    TAVS_FIR_FLOAT_RUN_SFS(K, St, X, D, TAG)
