@@ -70,6 +70,11 @@ template <bool Inverse> void rows_soa_in_place(float* d, int64_t N, int64_t M, c
 // radix4_after_first on each piece equals permute_copy then radix4.
 template <class S, bool Inverse> void permute_first_pass(const S* src, S* dst, int64_t N, int64_t L, const S* tw);
 template <class S, bool Inverse> void radix4_after_first(S* d, int64_t N, const S* tw);
+// The forward 32f kernel (first pass included unless firstDone) with its
+// result left in blocks of four values, [re0 re1 re2 re3 im0 im1 im2 im3]
+// at the addresses of the interleaved values, for a caller that reads them
+// in that form: the same operations, without the final interleave.
+void radix4_fwd_blocks_32f(float* d, int64_t N, const float* tw, bool firstDone);
 
 // Bit reversal of N elements through the swap list of N: in place, or from
 // src into dst (src untouched, every element of dst written once).

@@ -31,6 +31,12 @@ template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, cons
 // the complex inverse without a permutation pass. order >= 7.
 template <class S> void real_pre_step_reversed(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d);
 
+// The forward transform of orders 7 to 11 in 32f with the post-step reading
+// the half-length kernel's blocks directly (Perm in dst; the layout step is
+// the caller's). False, with nothing done, at other orders and in 64f.
+bool real_forward_blocks(const FloatSpec<float>* spec, bool scaled, float scale, const float* src, float* dst);
+inline bool real_forward_blocks(const FloatSpec<double>*, bool, double, const double*, double*) { return false; }
+
 // The transforms behind the exported bodies, after the argument checks:
 // the work buffer, the transform, the layout step. The only failure is
 // ErrMemAlloc (null wsp and the record needs work space); dst is then

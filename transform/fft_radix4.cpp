@@ -190,22 +190,23 @@ template <bool Inv, bool Last> void stage_32(float* d, int64_t N, const float* t
     }
 }
 
-// The radix-4 stages after the first pass.
-template <bool Inv> void later_32(float* d, int64_t N, const float* tw)
+// The radix-4 stages after the first pass. With Blocks the last stage too
+// leaves its values in blocks of four, for a caller that reads them so.
+template <bool Inv, bool Blocks = false> void later_32(float* d, int64_t N, const float* tw)
 {
     for (int64_t span = first_block(N) * 4; span <= N; span *= 4) {
-        if (span * 4 > N) stage_32<Inv, true>(d, N, tw, span);
+        if (span * 4 > N && !Blocks) stage_32<Inv, true>(d, N, tw, span);
         else stage_32<Inv, false>(d, N, tw, span);
     }
 }
 
-template <bool Inv> void radix4_32fc(float* d, int64_t N, const float* tw)
+template <bool Inv, bool Blocks = false> void radix4_32fc(float* d, int64_t N, const float* tw)
 {
     const int64_t B = first_block(N);
     first_pass_pairs_32<Inv>(
         d, N, N, tw, [d, B](int64_t i, int t) { return load2(d + 2 * (i * B + t), d + 2 * ((i + 1) * B + t)); },
         Natural());
-    later_32<Inv>(d, N, tw);
+    later_32<Inv, Blocks>(d, N, tw);
 }
 
 // ---- 64f --------------------------------------------------------------------
@@ -339,6 +340,12 @@ template <> void radix4_after_first<float, false>(float* d, int64_t N, const flo
 template <> void radix4_after_first<float, true>(float* d, int64_t N, const float* tw) { later_32<true>(d, N, tw); }
 template <> void radix4_after_first<double, false>(double* d, int64_t N, const double* tw) { later_64<false>(d, N, tw); }
 template <> void radix4_after_first<double, true>(double* d, int64_t N, const double* tw) { later_64<true>(d, N, tw); }
+
+void radix4_fwd_blocks_32f(float* d, int64_t N, const float* tw, bool firstDone)
+{
+    if (firstDone) later_32<false, true>(d, N, tw);
+    else radix4_32fc<false, true>(d, N, tw);
+}
 
 // Block i of dst holds src[rev(i * B + t)] = src[rev_B(t) * (N / B) + rev(i)]:
 // each block is read straight from the source and goes through the first

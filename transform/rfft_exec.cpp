@@ -63,7 +63,7 @@ template <class S> Status real_forward(const FloatSpec<S>* spec, RealLayout lay,
     const bool scaled = spec->fwdScales != 0;
     if (order <= 5) {
         real_direct_fwd<S>(order, scaled, spec->scale.value, src, dst);
-    } else {
+    } else if (!real_forward_blocks(spec, scaled, spec->scale.value, src, dst)) {
         complex_interleaved<S>(spec, order - 1, false, scaled, spec->scale.value, src, dst, wb.get());
         real_post_step<S>(spec, dst);
     }

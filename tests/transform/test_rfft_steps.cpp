@@ -56,22 +56,10 @@ template <class S> void twiddle(const S* t, bool twoLevel, int64_t k, S& p, S& q
     q = ip * u + iq * s;
 }
 
-template <class P> void check_steps(int order)
+// The post-step written out one pair at a time, in place on d.
+template <class S> void post_step_model(const tavs::fft::FloatSpec<S>* fs, bool twoLevel, S* d, int64_t N)
 {
-    using S = typename P::S;
-    using C = Cx<S>;
-    const int64_t N = int64_t(1) << order, M = N / 2;
-    const bool twoLevel = order >= (sizeof(S) == 4 ? 19 : 18);
-    rt::Record<P> rec(order, ScaleNever);
-    typename C::Spec* cx = nullptr;
-    ASSERT_EQ(C::alloc(&cx, order - 1), StatusOk);
-    const auto* fs = reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p);
-
-    // Forward.
-    const std::vector<double> xd = rt::random_real(600 + unsigned(order), size_t(N));
-    const std::vector<S> x(xd.begin(), xd.end());
-    std::vector<S> d(static_cast<size_t>(N)), got(static_cast<size_t>(N));
-    ASSERT_EQ(C::fwd(x.data(), d.data(), cx), StatusOk);
+    const int64_t M = N / 2;
     const S z0 = d[0], z1 = d[1];
     d[0] = z0 + z1;
     d[1] = z0 - z1;
@@ -91,6 +79,25 @@ template <class P> void check_steps(int order)
         }
     }
     d[M + 1] = -d[M + 1];
+}
+
+template <class P> void check_steps(int order)
+{
+    using S = typename P::S;
+    using C = Cx<S>;
+    const int64_t N = int64_t(1) << order, M = N / 2;
+    const bool twoLevel = order >= (sizeof(S) == 4 ? 19 : 18);
+    rt::Record<P> rec(order, ScaleNever);
+    typename C::Spec* cx = nullptr;
+    ASSERT_EQ(C::alloc(&cx, order - 1), StatusOk);
+    const auto* fs = reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p);
+
+    // Forward.
+    const std::vector<double> xd = rt::random_real(600 + unsigned(order), size_t(N));
+    const std::vector<S> x(xd.begin(), xd.end());
+    std::vector<S> d(static_cast<size_t>(N)), got(static_cast<size_t>(N));
+    ASSERT_EQ(C::fwd(x.data(), d.data(), cx), StatusOk);
+    post_step_model(fs, twoLevel, d.data(), N);
     ASSERT_EQ(P::fwd(rt::Perm, x.data(), got.data(), rec.p, nullptr), StatusOk);
     EXPECT_EQ(std::memcmp(d.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " forward order " << order;
 
@@ -125,6 +132,37 @@ TYPED_TEST(RealSteps, BitExactAgainstOnePairAtATime)
     const int top = 20;
 #endif
     for (int order = 6; order <= top; ++order) check_steps<TypeParam>(order);
+}
+
+// The forward scaled and in place: the scale pass falls between the
+// half-length transform and the post-step, and the in-place permutation
+// must give the same values as the out-of-place one.
+template <class P> void check_forward_scaled_in_place(int order)
+{
+    using S = typename P::S;
+    using C = Cx<S>;
+    const int64_t N = int64_t(1) << order;
+    rt::Record<P> rec(order, ScaleFwdByLen);
+    typename C::Spec* cx = nullptr;
+    ASSERT_EQ(C::alloc(&cx, order - 1), StatusOk);
+    const auto* fs = reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p);
+    const std::vector<double> xd = rt::random_real(700 + unsigned(order), size_t(N));
+    const std::vector<S> x(xd.begin(), xd.end());
+    std::vector<S> want(static_cast<size_t>(N)), got(static_cast<size_t>(N));
+    ASSERT_EQ(C::fwd(x.data(), want.data(), cx), StatusOk);
+    for (S& v : want) v *= fs->scale.value;
+    post_step_model(fs, order >= (sizeof(S) == 4 ? 19 : 18), want.data(), N);
+    ASSERT_EQ(P::fwd(rt::Perm, x.data(), got.data(), rec.p, nullptr), StatusOk);
+    EXPECT_EQ(std::memcmp(want.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " order " << order;
+    got = x;
+    ASSERT_EQ(P::fwd(rt::Perm, got.data(), got.data(), rec.p, nullptr), StatusOk);
+    EXPECT_EQ(std::memcmp(want.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " in place order " << order;
+    C::release(cx);
+}
+
+TYPED_TEST(RealSteps, ForwardScaledAndInPlace)
+{
+    for (int order = 6; order <= 13; ++order) check_forward_scaled_in_place<TypeParam>(order);
 }
 
 // The real tables against their formulas: small forward (0.5 cos t,
