@@ -162,7 +162,7 @@ template <class P> void check_forward_scaled_in_place(int order)
 
 TYPED_TEST(RealSteps, ForwardScaledAndInPlace)
 {
-    for (int order = 6; order <= 13; ++order) check_forward_scaled_in_place<TypeParam>(order);
+    for (int order = 6; order <= 18; ++order) check_forward_scaled_in_place<TypeParam>(order);
 }
 
 // The real tables against their formulas: small forward (0.5 cos t,
