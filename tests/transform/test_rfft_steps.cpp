@@ -81,24 +81,46 @@ template <class S> void post_step_model(const tavs::fft::FloatSpec<S>* fs, bool 
     d[M + 1] = -d[M + 1];
 }
 
+// A real record of one order and flag, the complex record of half the
+// length, a random signal x and its half-length complex spectrum z.
+template <class P> struct StepCase {
+    using S = typename P::S;
+    using C = Cx<S>;
+    int64_t N;
+    bool twoLevel;
+    rt::Record<P> rec;
+    typename C::Spec* cx = nullptr;
+    const tavs::fft::FloatSpec<S>* fs;
+    std::vector<S> x, z;
+    StepCase(int order, int flag, unsigned seed)
+        : N(int64_t(1) << order), twoLevel(order >= (sizeof(S) == 4 ? 19 : 18)), rec(order, flag),
+          fs(reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p)), z(static_cast<size_t>(N))
+    {
+        EXPECT_EQ(C::alloc(&cx, order - 1), StatusOk);
+        const std::vector<double> xd = rt::random_real(seed, size_t(N));
+        x.assign(xd.begin(), xd.end());
+        EXPECT_EQ(C::fwd(x.data(), z.data(), cx), StatusOk);
+    }
+    StepCase(const StepCase&) = delete;
+    StepCase& operator=(const StepCase&) = delete;
+    ~StepCase()
+    {
+        if (cx) C::release(cx);
+    }
+};
+
 template <class P> void check_steps(int order)
 {
     using S = typename P::S;
-    using C = Cx<S>;
-    const int64_t N = int64_t(1) << order, M = N / 2;
-    const bool twoLevel = order >= (sizeof(S) == 4 ? 19 : 18);
-    rt::Record<P> rec(order, ScaleNever);
-    typename C::Spec* cx = nullptr;
-    ASSERT_EQ(C::alloc(&cx, order - 1), StatusOk);
-    const auto* fs = reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p);
+    StepCase<P> t(order, ScaleNever, 600 + unsigned(order));
+    const int64_t N = t.N, M = N / 2;
+    const auto* fs = t.fs;
+    const bool twoLevel = t.twoLevel;
 
     // Forward.
-    const std::vector<double> xd = rt::random_real(600 + unsigned(order), size_t(N));
-    const std::vector<S> x(xd.begin(), xd.end());
-    std::vector<S> d(static_cast<size_t>(N)), got(static_cast<size_t>(N));
-    ASSERT_EQ(C::fwd(x.data(), d.data(), cx), StatusOk);
+    std::vector<S> d = t.z, got(static_cast<size_t>(N));
     post_step_model(fs, twoLevel, d.data(), N);
-    ASSERT_EQ(P::fwd(rt::Perm, x.data(), got.data(), rec.p, nullptr), StatusOk);
+    ASSERT_EQ(P::fwd(rt::Perm, t.x.data(), got.data(), t.rec.p, nullptr), StatusOk);
     EXPECT_EQ(std::memcmp(d.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " forward order " << order;
 
     // Inverse from the spectrum just computed.
@@ -115,10 +137,9 @@ template <class P> void check_steps(int order)
     d[1] = X[0] - X[1];
     d[M] = S(2) * X[M];
     d[M + 1] = S(-2) * X[M + 1];
-    ASSERT_EQ(C::inv(d.data(), cx), StatusOk);
-    ASSERT_EQ(P::inv(rt::Perm, X.data(), got.data(), rec.p, nullptr), StatusOk);
+    ASSERT_EQ(Cx<S>::inv(d.data(), t.cx), StatusOk);
+    ASSERT_EQ(P::inv(rt::Perm, X.data(), got.data(), t.rec.p, nullptr), StatusOk);
     EXPECT_EQ(std::memcmp(d.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " inverse order " << order;
-    C::release(cx);
 }
 
 template <class P> struct RealSteps : ::testing::Test {};
@@ -140,24 +161,16 @@ TYPED_TEST(RealSteps, BitExactAgainstOnePairAtATime)
 template <class P> void check_forward_scaled_in_place(int order)
 {
     using S = typename P::S;
-    using C = Cx<S>;
-    const int64_t N = int64_t(1) << order;
-    rt::Record<P> rec(order, ScaleFwdByLen);
-    typename C::Spec* cx = nullptr;
-    ASSERT_EQ(C::alloc(&cx, order - 1), StatusOk);
-    const auto* fs = reinterpret_cast<const tavs::fft::FloatSpec<S>*>(rec.p);
-    const std::vector<double> xd = rt::random_real(700 + unsigned(order), size_t(N));
-    const std::vector<S> x(xd.begin(), xd.end());
-    std::vector<S> want(static_cast<size_t>(N)), got(static_cast<size_t>(N));
-    ASSERT_EQ(C::fwd(x.data(), want.data(), cx), StatusOk);
-    for (S& v : want) v *= fs->scale.value;
-    post_step_model(fs, order >= (sizeof(S) == 4 ? 19 : 18), want.data(), N);
-    ASSERT_EQ(P::fwd(rt::Perm, x.data(), got.data(), rec.p, nullptr), StatusOk);
-    EXPECT_EQ(std::memcmp(want.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " order " << order;
-    got = x;
-    ASSERT_EQ(P::fwd(rt::Perm, got.data(), got.data(), rec.p, nullptr), StatusOk);
-    EXPECT_EQ(std::memcmp(want.data(), got.data(), size_t(N) * sizeof(S)), 0) << P::name << " in place order " << order;
-    C::release(cx);
+    StepCase<P> t(order, ScaleFwdByLen, 700 + unsigned(order));
+    const size_t N = size_t(t.N);
+    std::vector<S> want = t.z, got(N);
+    for (S& v : want) v *= t.fs->scale.value;
+    post_step_model(t.fs, t.twoLevel, want.data(), t.N);
+    ASSERT_EQ(P::fwd(rt::Perm, t.x.data(), got.data(), t.rec.p, nullptr), StatusOk);
+    EXPECT_EQ(std::memcmp(want.data(), got.data(), N * sizeof(S)), 0) << P::name << " order " << order;
+    got = t.x;
+    ASSERT_EQ(P::fwd(rt::Perm, got.data(), got.data(), t.rec.p, nullptr), StatusOk);
+    EXPECT_EQ(std::memcmp(want.data(), got.data(), N * sizeof(S)), 0) << P::name << " in place order " << order;
 }
 
 TYPED_TEST(RealSteps, ForwardScaledAndInPlace)
