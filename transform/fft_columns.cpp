@@ -5,6 +5,8 @@
 #include "internal/body.h"
 #include "internal/fft_kernels.h"
 #include "internal/fft_simd.h"
+#include "internal/rfft.h"
+#include "internal/rfft_lanes.h"
 
 namespace tavs::fft {
 
@@ -241,6 +243,104 @@ template <bool Inv> void rows_in_place(float* d, int64_t N, int64_t M, const flo
 }
 
 } // namespace
+
+// The flat index i = q R + c (row q < M, column c < R of the natural order)
+// has its bit-reversed place in row rev(c), at place rev(q). Each pair
+// (i, N - i) of the pre-step joins column c to column R - c: the columns
+// j .. j + 3 (block A, j < R / 2 a multiple of 4) and R - j .. R - j - 3
+// (block B) hold each other's mirrors, with rows q and M - 1 - q facing
+// each other. Column 0 (its own mirror across rows q and M - q, with the
+// two real values) and column R / 2 (its own mirror) are done one pair at
+// a time; the latter takes lane 0 of block B in the first group, where
+// R - 0 is no column.
+void real_rows_from_pre(const float* src, int off, float s0, float s1, const float* rtw, float* dst, int64_t N,
+                        int64_t M, const float* tw, bool scaled, float scale)
+{
+    using V = lanes::F4;
+    using One = lanes::One<float>;
+    const int64_t R = N / M;
+    const int F = log2_of(R), Q = log2_of(M);
+    alignas(64) float blk[kSoaRowsFloats];
+    float* const A = blk;
+    float* const B = blk + 8 * M;
+    // The pair with lower index k, one lane: (fr, fi) to the place at f,
+    // (mr, mi) to the place at r (re at [0], im at [4]).
+    auto one = [&](int64_t k, float* f, float* r) {
+        One a, b, c, e, p, q, fr, fi, mr, mi;
+        One::load_fwd(src + (2 * k + off), a, b);
+        One::load_rev(src + (2 * (N - k) + off), c, e);
+        One::load_fwd(rtw + 2 * k, p, q);
+        lanes::pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
+        f[0] = fr.v, f[4] = fi.v, r[0] = mr.v, r[4] = mi.v;
+    };
+    for (int64_t j = 0; j < R / 2; j += 4) {
+        int64_t p = 0; // rev(q); rev(M - 1 - q) is its complement
+        for (int64_t q = 0; q < M / 2; ++q) {
+            const int64_t pm = p ^ (M - 1);
+            float* const fa = A + 8 * p;
+            float* const ra = A + 8 * pm;
+            float* const fb = B + 8 * p;
+            float* const rb = B + 8 * pm;
+            // Lower indices q R + j + u (block A, row q), mirrors in block B,
+            // row M - 1 - q. For j = q = 0, lane 0 would be k = 0.
+            const int64_t k1 = q * R + j;
+            if (j == 0 && q == 0) {
+                for (int u = 1; u < 4; ++u) one(u, fa + u, rb + u);
+            } else {
+                V a, b, c, e, tp, tq, fr, fi, mr, mi;
+                V::load_fwd(src + (2 * k1 + off), a, b);
+                V::load_rev(src + (2 * (N - k1) + off), c, e);
+                V::load_fwd(rtw + 2 * k1, tp, tq);
+                lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
+                _mm_store_ps(fa, fr.v);
+                _mm_store_ps(fa + 4, fi.v);
+                _mm_store_ps(rb, mr.v);
+                _mm_store_ps(rb + 4, mi.v);
+            }
+            // Lower indices q R + R - j - u (block B, row q), mirrors in
+            // block A, row M - 1 - q. For j = 0, q = M/2 - 1, lane 0 would
+            // be k = N / 2.
+            const int64_t k2 = (q + 1) * R - j;
+            if (j == 0 && q == M / 2 - 1) {
+                for (int u = 1; u < 4; ++u) one(k2 - u, fb + u, ra + u);
+            } else {
+                V a, b, c, e, tp, tq, fr, fi, mr, mi;
+                V::load_rev(src + (2 * k2 + off), a, b);
+                V::load_fwd(src + (2 * (N - k2) + off), c, e);
+                V::load_rev(rtw + 2 * k2, tp, tq);
+                lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
+                _mm_store_ps(fb, fr.v);
+                _mm_store_ps(fb + 4, fi.v);
+                _mm_store_ps(ra, mr.v);
+                _mm_store_ps(ra + 4, mi.v);
+            }
+            int64_t bit = M / 2;
+            while (p & bit) p ^= bit, bit >>= 1;
+            p |= bit;
+        }
+        float* rowA[4];
+        float* rowB[4];
+        for (int u = 0; u < 4; ++u) {
+            rowA[u] = dst + 2 * M * rev_bits(j + u, F);
+            rowB[u] = dst + 2 * M * rev_bits(R - j - u, F);
+        }
+        if (j == 0) {
+            // Lane 0 of A: column 0, pairs (q R, (M - q) R), and the two
+            // real values at 0 and N / 2 (places 0 and rev(M / 2) = 1).
+            for (int64_t q = 1; q < M / 2; ++q) one(q * R, A + 8 * rev_bits(q, Q), A + 8 * rev_bits(M - q, Q));
+            A[0] = s0 + s1;
+            A[4] = s0 - s1;
+            A[8] = 2.0f * src[N + off];
+            A[12] = -2.0f * src[N + 1 + off];
+            // Lane 0 of B: column R / 2, rows q and M - 1 - q.
+            for (int64_t q = 0; q < M / 2; ++q)
+                one(q * R + R / 2, B + 8 * rev_bits(q, Q), B + 8 * rev_bits(M - 1 - q, Q));
+            rowB[0] = dst + 2 * M * rev_bits(R / 2, F);
+        }
+        rows4_out<true>(A, rowA, M, tw, scaled, scale);
+        rows4_out<true>(B, rowB, M, tw, scaled, scale);
+    }
+}
 
 template <> void radix4_rows4<false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }

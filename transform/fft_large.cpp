@@ -7,6 +7,7 @@
 #include "internal/fft.h"
 #include "internal/fft_kernels.h"
 #include "internal/fft_simd.h"
+#include "internal/rfft.h"
 
 #include <emmintrin.h>
 
@@ -377,6 +378,22 @@ template void complex_interleaved_reversed<float>(const FloatSpec<float>*, int, 
                                                   unsigned char*);
 template void complex_interleaved_reversed<double>(const FloatSpec<double>*, int, bool, bool, double, double*,
                                                    unsigned char*);
+
+bool real_inverse_fused(const FloatSpec<float>* spec, float s0, float s1, const float* src, int off, float* dst,
+                        unsigned char* work)
+{
+    const int m = spec->order - 1;
+    if (!soa_rows_fit<float>(m) || spec->order >= Dims<float>::kTwoLevelReal) return false;
+    const int F = first_factor_bits<float>(m);
+    const int64_t N = int64_t(1) << m, M = N >> F;
+    if (16 * M > kSoaRowsFloats || (N / M) < 8) return false;
+    const bool scaled = spec->invScales != 0;
+    const float scale = spec->scale.value;
+    real_rows_from_pre(src, off, s0, s1, spec->realInv, dst, N, M, spec->radixFour, scaled, scale);
+    Large<float, true, Inter<float>>{spec, scaled, scale, reinterpret_cast<float*>(work), true}.columns_pass(
+        Inter<float>{dst}, m, 0);
+    return true;
+}
 
 template <class S>
 void complex_split(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* srcRe,
