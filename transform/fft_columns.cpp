@@ -182,6 +182,14 @@ void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool
     }
 }
 
+// rev(q + 1) from p = rev(q) over log2(M) bits, without a branch: the
+// increment flips the trailing ones of q and the zero above them, which
+// reversed are the top ctz(q + 1) + 1 bits.
+inline int64_t next_rev(int64_t p, int64_t q, int64_t M)
+{
+    return p ^ (M - (M >> (__builtin_ctzll(uint64_t(q + 1)) + 1)));
+}
+
 inline int log2_of(int64_t n)
 {
     int b = 0;
@@ -210,9 +218,7 @@ void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const flo
                 _mm_store_ps(o, _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)));
                 _mm_store_ps(o + 4, _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
             }
-            int64_t bit = M / 2;
-            while (p & bit) p ^= bit, bit >>= 1;
-            p |= bit;
+            p = next_rev(p, q, M);
         }
         for (int h = 0; h < G / 4; ++h) {
             float* row[4];
@@ -314,9 +320,7 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
                 _mm_store_ps(ra, mr.v);
                 _mm_store_ps(ra + 4, mi.v);
             }
-            int64_t bit = M / 2;
-            while (p & bit) p ^= bit, bit >>= 1;
-            p |= bit;
+            p = next_rev(p, q, M);
         }
         float* rowA[4];
         float* rowB[4];
