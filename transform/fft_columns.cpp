@@ -269,6 +269,10 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
     alignas(64) float blk[kSoaRowsFloats];
     float* const A = blk;
     float* const B = blk + 8 * M;
+    auto store_soa = [](float* o, V re, V im) {
+        _mm_store_ps(o, re.v);
+        _mm_store_ps(o + 4, im.v);
+    };
     // The pair with lower index k, one lane: (fr, fi) to the place at f,
     // (mr, mi) to the place at r (re at [0], im at [4]).
     auto one = [&](int64_t k, float* f, float* r) {
@@ -287,38 +291,49 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
             float* const ra = A + 8 * pm;
             float* const fb = B + 8 * p;
             float* const rb = B + 8 * pm;
-            // Lower indices q R + j + u (block A, row q), mirrors in block B,
-            // row M - 1 - q. For j = q = 0, lane 0 would be k = 0.
-            const int64_t k1 = q * R + j;
-            if (j == 0 && q == 0) {
-                for (int u = 1; u < 4; ++u) one(u, fa + u, rb + u);
+            // Lower indices k1 + u = q R + j + u (block A, row q), mirrors in
+            // block B, row M - 1 - q; lower indices k2 - u = q R + R - j - u
+            // (block B, row q), mirrors in block A, row M - 1 - q. Both groups
+            // are loaded before either is stored.
+            const int64_t k1 = q * R + j, k2 = (q + 1) * R - j;
+            V a, b, c, e, tp, tq, fr, fi, mr, mi;
+            V a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2;
+            if (j == 0 && (q == 0 || q == M / 2 - 1)) {
+                // Lane 0 would be k1 = 0 (q = 0) or k2 = N / 2 (q = M/2 - 1):
+                // that group goes one lane at a time, lanes 1 to 3.
+                if (q == 0) {
+                    for (int u = 1; u < 4; ++u) one(u, fa + u, rb + u);
+                } else {
+                    V::load_fwd(src + (2 * k1 + off), a, b);
+                    V::load_rev(src + (2 * (N - k1) + off), c, e);
+                    V::load_fwd(rtw + 2 * k1, tp, tq);
+                    lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
+                    store_soa(fa, fr, fi);
+                    store_soa(rb, mr, mi);
+                }
+                if (q == M / 2 - 1) {
+                    for (int u = 1; u < 4; ++u) one(k2 - u, fb + u, ra + u);
+                } else {
+                    V::load_rev(src + (2 * k2 + off), a2, b2);
+                    V::load_fwd(src + (2 * (N - k2) + off), c2, e2);
+                    V::load_rev(rtw + 2 * k2, tp2, tq2);
+                    lanes::pre_pair(a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2);
+                    store_soa(fb, fr2, fi2);
+                    store_soa(ra, mr2, mi2);
+                }
             } else {
-                V a, b, c, e, tp, tq, fr, fi, mr, mi;
                 V::load_fwd(src + (2 * k1 + off), a, b);
                 V::load_rev(src + (2 * (N - k1) + off), c, e);
                 V::load_fwd(rtw + 2 * k1, tp, tq);
+                V::load_rev(src + (2 * k2 + off), a2, b2);
+                V::load_fwd(src + (2 * (N - k2) + off), c2, e2);
+                V::load_rev(rtw + 2 * k2, tp2, tq2);
                 lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
-                _mm_store_ps(fa, fr.v);
-                _mm_store_ps(fa + 4, fi.v);
-                _mm_store_ps(rb, mr.v);
-                _mm_store_ps(rb + 4, mi.v);
-            }
-            // Lower indices q R + R - j - u (block B, row q), mirrors in
-            // block A, row M - 1 - q. For j = 0, q = M/2 - 1, lane 0 would
-            // be k = N / 2.
-            const int64_t k2 = (q + 1) * R - j;
-            if (j == 0 && q == M / 2 - 1) {
-                for (int u = 1; u < 4; ++u) one(k2 - u, fb + u, ra + u);
-            } else {
-                V a, b, c, e, tp, tq, fr, fi, mr, mi;
-                V::load_rev(src + (2 * k2 + off), a, b);
-                V::load_fwd(src + (2 * (N - k2) + off), c, e);
-                V::load_rev(rtw + 2 * k2, tp, tq);
-                lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
-                _mm_store_ps(fb, fr.v);
-                _mm_store_ps(fb + 4, fi.v);
-                _mm_store_ps(ra, mr.v);
-                _mm_store_ps(ra + 4, mi.v);
+                lanes::pre_pair(a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2);
+                store_soa(fa, fr, fi);
+                store_soa(rb, mr, mi);
+                store_soa(fb, fr2, fi2);
+                store_soa(ra, mr2, mi2);
             }
             p = next_rev(p, q, M);
         }
