@@ -227,6 +227,10 @@ template <bool Inv> inline void columns(double* w, int64_t R, const double* tw) 
 
 // ---- the large path -------------------------------------------------------------
 
+// Floats of the second column block of the 32f column pass (columns of up
+// to 256 points: 8 KB on the stack).
+constexpr int64_t kSecondBlockFloats = 2048;
+
 template <class S, bool Inv, class V> struct Large {
     const FloatSpec<S>* spec;
     bool scaled;
@@ -274,6 +278,12 @@ template <class S, bool Inv, class V> struct Large {
         const int64_t R = int64_t(1) << F, M = int64_t(1) << (m - F);
         const S* cols = spec->levelColumns[level];
         const S* r4 = spec->levelRadixFour[level];
+        if constexpr (std::is_same_v<V, Inter<float>>) {
+            if (R * 8 <= kSecondBlockFloats && M % 8 == 0) {
+                columns_by_eight(v, R, M, cols, r4);
+                return;
+            }
+        }
         // The scatter of columns c .. c+3 and the gather of c+4 .. c+7 share
         // one walk over the rows: both touch the same cache line of a row,
         // which is then fetched once instead of twice.
@@ -288,6 +298,40 @@ template <class S, bool Inv, class V> struct Large {
                 }
             } else {
                 for (int64_t r = 0; r < R; ++r) scatter_row(v, r, M, c, work);
+            }
+        }
+    }
+
+    // 32f interleaved: eight columns (one cache line of a row) at a time,
+    // in the work buffer and a second block on the stack. The walk that
+    // scatters c .. c+7 and gathers c+8 .. c+15 then uses every row line it
+    // touches whole.
+    void columns_by_eight(Inter<float> v, int64_t R, int64_t M, const float* cols, const float* r4) const
+    {
+        alignas(64) float second[kSecondBlockFloats];
+        float* const w0 = work;
+        float* const w1 = second;
+        const int64_t T = R * 8; // floats of the twiddles of one group of four
+        for (int64_t r = 0; r < R; ++r) {
+            gather_row<Inv>(v, r, M, 0, cols, w0);
+            gather_row<Inv>(v, r, M, 4, cols + T, w1);
+        }
+        for (int64_t c = 0; c < M; c += 8) {
+            columns<Inv>(w0, R, r4);
+            columns<Inv>(w1, R, r4);
+            if (c + 8 < M) {
+                const float* next = cols + ((c + 8) / 4) * T;
+                for (int64_t r = 0; r < R; ++r) {
+                    scatter_row(v, r, M, c, w0);
+                    scatter_row(v, r, M, c + 4, w1);
+                    gather_row<Inv>(v, r, M, c + 8, next, w0);
+                    gather_row<Inv>(v, r, M, c + 12, next + T, w1);
+                }
+            } else {
+                for (int64_t r = 0; r < R; ++r) {
+                    scatter_row(v, r, M, c, w0);
+                    scatter_row(v, r, M, c + 4, w1);
+                }
             }
         }
     }
