@@ -97,8 +97,9 @@ template <bool Inv> inline Soa mul_soa(Soa x, __m128 wr, __m128 wi)
 }
 
 // rows4_32fc on rows in the [re x4, im x4] form: the same butterflies, the
-// rotations by -i or +i become a choice of operands.
-template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
+// rotations by -i or +i become a choice of operands. With SkipLast the last
+// stage (span R, always radix 4 for R >= 16) is left to the caller.
+template <bool Inv, bool SkipLast = false> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
 {
     auto ld = [d](int64_t r) { return Soa{_mm_load_ps(d + 8 * r), _mm_load_ps(d + 8 * r + 4)}; };
     auto st = [d](int64_t r, Soa v) {
@@ -128,7 +129,7 @@ template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
             }
         span = 32;
     }
-    for (; span <= R; span *= 4) {
+    for (; span <= (SkipLast ? R / 4 : R); span *= 4) {
         const int64_t q = span / 4, stride = 6 * (R / span);
         for (int64_t b = 0; b < R; b += span) {
             Soa x0, x1, x2, x3;
@@ -157,16 +158,30 @@ template <bool Inv> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
 }
 
 // Four rows held side by side in blk (place k as [re x4, im x4]): the
-// kernel on all four, the scale, and each row written back to its place,
-// two values of a row at a time.
+// kernel on all four, the scale, and each row written to its place, two
+// values of a row at a time. The kernel's last stage (span M) writes the
+// rows itself: its butterflies k and k + 1 give places k + i M/4 and
+// k + 1 + i M/4, which a transpose turns into two values of each row.
 template <bool Inv>
 void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool scaled, float scale)
 {
-    rows4_soa_32fc<Inv>(blk, M, tw);
+    rows4_soa_32fc<Inv, true>(blk, M, tw);
     const __m128 s = _mm_set1_ps(scale);
-    for (int64_t k = 0; k < M; k += 2) {
-        __m128 r0 = _mm_load_ps(blk + 8 * k), i0 = _mm_load_ps(blk + 8 * k + 4);
-        __m128 r1 = _mm_load_ps(blk + 8 * k + 8), i1 = _mm_load_ps(blk + 8 * k + 12);
+    const int64_t q = M / 4;
+    auto ld = [blk](int64_t r) { return Soa{_mm_load_ps(blk + 8 * r), _mm_load_ps(blk + 8 * r + 4)}; };
+    // x * w, w = t[0 .. 1] in every lane.
+    auto tw_mul = [](Soa x, const float* t) { return mul_soa<Inv>(x, _mm_set1_ps(t[0]), _mm_set1_ps(t[1])); };
+    auto bfly = [&](int64_t k, Soa& x0, Soa& x1, Soa& x2, Soa& x3) {
+        if (k == 0) {
+            bfly4_soa<Inv>(ld(0), ld(q), ld(2 * q), ld(3 * q), x0, x1, x2, x3);
+            return;
+        }
+        const float* t = tw + 6 * k;
+        bfly4_soa<Inv>(ld(k), tw_mul(ld(k + q), t + 2), tw_mul(ld(k + 2 * q), t), tw_mul(ld(k + 3 * q), t + 4), x0, x1,
+                       x2, x3);
+    };
+    auto out = [&](int64_t k, Soa a, Soa b) {
+        __m128 r0 = a.r, i0 = a.i, r1 = b.r, i1 = b.i;
         if (scaled) {
             r0 = _mm_mul_ps(r0, s);
             i0 = _mm_mul_ps(i0, s);
@@ -179,6 +194,15 @@ void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool
         _mm_storeu_ps(row[1] + 2 * k, i0);
         _mm_storeu_ps(row[2] + 2 * k, r1);
         _mm_storeu_ps(row[3] + 2 * k, i1);
+    };
+    for (int64_t k = 0; k < q; k += 2) {
+        Soa a0, a1, a2, a3, b0, b1, b2, b3;
+        bfly(k, a0, a1, a2, a3);
+        bfly(k + 1, b0, b1, b2, b3);
+        out(k, a0, b0);
+        out(k + q, a1, b1);
+        out(k + 2 * q, a2, b2);
+        out(k + 3 * q, a3, b3);
     }
 }
 
