@@ -5,12 +5,14 @@
 #include "internal/body.h"
 #include "internal/fft_kernels.h"
 #include "internal/fft_simd.h"
+#include "internal/fft_soa.h"
 #include "internal/rfft.h"
 #include "internal/rfft_lanes.h"
 
 namespace tavs::fft {
 
 using namespace simd;
+using namespace soa;
 
 namespace {
 
@@ -67,33 +69,6 @@ template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
                 }
         }
     }
-}
-
-// The radix-4 butterfly on four lanes of split values: (a, b, c, d) with b
-// from the second quarter, as bfly4 does on interleaved values.
-struct Soa {
-    __m128 r, i;
-};
-template <bool Inv> inline void bfly4_soa(Soa a, Soa b, Soa c, Soa d, Soa& x0, Soa& x1, Soa& x2, Soa& x3)
-{
-    const Soa t0{_mm_add_ps(a.r, b.r), _mm_add_ps(a.i, b.i)}, t1{_mm_sub_ps(a.r, b.r), _mm_sub_ps(a.i, b.i)};
-    const Soa t2{_mm_add_ps(c.r, d.r), _mm_add_ps(c.i, d.i)}, t3{_mm_sub_ps(c.r, d.r), _mm_sub_ps(c.i, d.i)};
-    x0 = {_mm_add_ps(t0.r, t2.r), _mm_add_ps(t0.i, t2.i)};
-    x2 = {_mm_sub_ps(t0.r, t2.r), _mm_sub_ps(t0.i, t2.i)};
-    // t3 rotated by -i (forward) or +i (inverse), added and subtracted.
-    if (Inv) {
-        x1 = {_mm_sub_ps(t1.r, t3.i), _mm_add_ps(t1.i, t3.r)};
-        x3 = {_mm_add_ps(t1.r, t3.i), _mm_sub_ps(t1.i, t3.r)};
-    } else {
-        x1 = {_mm_add_ps(t1.r, t3.i), _mm_sub_ps(t1.i, t3.r)};
-        x3 = {_mm_sub_ps(t1.r, t3.i), _mm_add_ps(t1.i, t3.r)};
-    }
-}
-// x * w (x * conj(w) inverse) with w = (wr, wi) in every lane.
-template <bool Inv> inline Soa mul_soa(Soa x, __m128 wr, __m128 wi)
-{
-    if (Inv) return {_mm_add_ps(_mm_mul_ps(x.r, wr), _mm_mul_ps(x.i, wi)), _mm_sub_ps(_mm_mul_ps(x.i, wr), _mm_mul_ps(x.r, wi))};
-    return {_mm_sub_ps(_mm_mul_ps(x.r, wr), _mm_mul_ps(x.i, wi)), _mm_add_ps(_mm_mul_ps(x.r, wi), _mm_mul_ps(x.i, wr))};
 }
 
 // rows4_32fc on rows in the [re x4, im x4] form: the same butterflies, the
@@ -168,18 +143,6 @@ void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool
     rows4_soa_32fc<Inv, true>(blk, M, tw);
     const __m128 s = _mm_set1_ps(scale);
     const int64_t q = M / 4;
-    auto ld = [blk](int64_t r) { return Soa{_mm_load_ps(blk + 8 * r), _mm_load_ps(blk + 8 * r + 4)}; };
-    // x * w, w = t[0 .. 1] in every lane.
-    auto tw_mul = [](Soa x, const float* t) { return mul_soa<Inv>(x, _mm_set1_ps(t[0]), _mm_set1_ps(t[1])); };
-    auto bfly = [&](int64_t k, Soa& x0, Soa& x1, Soa& x2, Soa& x3) {
-        if (k == 0) {
-            bfly4_soa<Inv>(ld(0), ld(q), ld(2 * q), ld(3 * q), x0, x1, x2, x3);
-            return;
-        }
-        const float* t = tw + 6 * k;
-        bfly4_soa<Inv>(ld(k), tw_mul(ld(k + q), t + 2), tw_mul(ld(k + 2 * q), t), tw_mul(ld(k + 3 * q), t + 4), x0, x1,
-                       x2, x3);
-    };
     auto out = [&](int64_t k, Soa a, Soa b) {
         __m128 r0 = a.r, i0 = a.i, r1 = b.r, i1 = b.i;
         if (scaled) {
@@ -197,8 +160,8 @@ void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool
     };
     for (int64_t k = 0; k < q; k += 2) {
         Soa a0, a1, a2, a3, b0, b1, b2, b3;
-        bfly(k, a0, a1, a2, a3);
-        bfly(k + 1, b0, b1, b2, b3);
+        last_stage_bfly<Inv>(blk, q, tw, k, a0, a1, a2, a3);
+        last_stage_bfly<Inv>(blk, q, tw, k + 1, b0, b1, b2, b3);
         out(k, a0, b0);
         out(k + q, a1, b1);
         out(k + 2 * q, a2, b2);
