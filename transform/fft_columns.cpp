@@ -73,15 +73,17 @@ template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
 
 // rows4_32fc on rows in the [re x4, im x4] form: the same butterflies, the
 // rotations by -i or +i become a choice of operands. With SkipLast the last
-// stage (span R, always radix 4 for R >= 16) is left to the caller.
-template <bool Inv, bool SkipLast = false> void rows4_soa_32fc(float* d, int64_t R, const float* tw)
+// stage (span R, always radix 4 for R >= 16) is left to the caller, with
+// SkipFirst the first (the caller did it on its way in).
+template <bool Inv, bool SkipLast = false, bool SkipFirst = false>
+void rows4_soa_32fc(float* d, int64_t R, const float* tw)
 {
     auto ld = [d](int64_t r) { return Soa{_mm_load_ps(d + 8 * r), _mm_load_ps(d + 8 * r + 4)}; };
     auto st = [d](int64_t r, Soa v) {
         _mm_store_ps(d + 8 * r, v.r);
         _mm_store_ps(d + 8 * r + 4, v.i);
     };
-    for (int64_t i = 0; i < R; i += 4) {
+    for (int64_t i = 0; i < (SkipFirst ? 0 : R); i += 4) {
         Soa x0, x1, x2, x3;
         bfly4_soa<Inv>(ld(i), ld(i + 1), ld(i + 2), ld(i + 3), x0, x1, x2, x3);
         st(i, x0);
@@ -137,10 +139,10 @@ template <bool Inv, bool SkipLast = false> void rows4_soa_32fc(float* d, int64_t
 // values of a row at a time. The kernel's last stage (span M) writes the
 // rows itself: its butterflies k and k + 1 give places k + i M/4 and
 // k + 1 + i M/4, which a transpose turns into two values of each row.
-template <bool Inv>
+template <bool Inv, bool FirstDone = false>
 void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool scaled, float scale)
 {
-    rows4_soa_32fc<Inv, true>(blk, M, tw);
+    rows4_soa_32fc<Inv, true, FirstDone>(blk, M, tw);
     const __m128 s = _mm_set1_ps(scale);
     const int64_t q = M / 4;
     auto out = [&](int64_t k, Soa a, Soa b) {
@@ -169,6 +171,12 @@ void rows4_out(float* blk, float* const row[4], int64_t M, const float* tw, bool
     }
 }
 
+inline void store_soa(float* o, Soa v)
+{
+    _mm_store_ps(o, v.r);
+    _mm_store_ps(o + 4, v.i);
+}
+
 // rev(q + 1) from p = rev(q) over log2(M) bits, without a branch: the
 // increment flips the trailing ones of q and the zero above them, which
 // reversed are the top ctz(q + 1) + 1 bits.
@@ -195,22 +203,34 @@ void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const flo
     const int F = log2_of(R);
     const int G = M * 16 <= kSoaRowsFloats ? 8 : 4; // rows a group
     alignas(64) float blk[kSoaRowsFloats];
+    // Places i .. i+3 (i = 4 t) hold q = rev(i) + {0, M/2, M/4, 3M/4}, rev(i)
+    // = rev(t) over log2(M) - 2 bits: the kernel's first stage (a butterfly
+    // on each four places) is done right as they are read.
+    const int64_t qs[4] = {0, M / 2, M / 4, 3 * M / 4};
     for (int64_t j = 0; j < R; j += G) {
-        int64_t p = 0; // rev(q) over log2(M) bits
-        for (int64_t q = 0; q < M; ++q) {
-            const float* x = src + 2 * (q * R + j);
+        int64_t pt = 0; // rev(t)
+        for (int64_t t = 0; t < M / 4; ++t) {
             for (int h = 0; h < G / 4; ++h) {
-                const __m128 a = _mm_loadu_ps(x + 8 * h), b = _mm_loadu_ps(x + 8 * h + 4);
-                float* o = blk + h * 8 * M + 8 * p;
-                _mm_store_ps(o, _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)));
-                _mm_store_ps(o + 4, _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
+                Soa x[4];
+                for (int u = 0; u < 4; ++u) {
+                    const float* s = src + 2 * ((pt + qs[u]) * R + j) + 8 * h;
+                    const __m128 a = _mm_loadu_ps(s), b = _mm_loadu_ps(s + 4);
+                    x[u] = {_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))};
+                }
+                Soa y0, y1, y2, y3;
+                bfly4_soa<Inv>(x[0], x[1], x[2], x[3], y0, y1, y2, y3);
+                float* o = blk + h * 8 * M + 32 * t;
+                store_soa(o, y0);
+                store_soa(o + 8, y1);
+                store_soa(o + 16, y2);
+                store_soa(o + 24, y3);
             }
-            p = next_rev(p, q, M);
+            pt = next_rev(pt, t, M / 4);
         }
         for (int h = 0; h < G / 4; ++h) {
             float* row[4];
             for (int u = 0; u < 4; ++u) row[u] = dst + 2 * M * rev_bits(j + 4 * h + u, F);
-            rows4_out<Inv>(blk + h * 8 * M, row, M, tw, scaled, scale);
+            rows4_out<Inv, true>(blk + h * 8 * M, row, M, tw, scaled, scale);
         }
     }
 }
