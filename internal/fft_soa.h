@@ -53,3 +53,11 @@ template <bool Inv> inline void last_stage_bfly(const float* d, int64_t q, const
 }
 
 } // namespace tavs::fft::soa
+
+namespace tavs::fft {
+
+// radix4_rows4_soa without its first stage (a butterfly on each four
+// consecutive rows), which the caller did on its way in.
+template <bool Inverse> void radix4_rows4_soa_after_first(float* d, int64_t R, const float* tw);
+
+} // namespace tavs::fft

@@ -371,6 +371,14 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
 template <> void radix4_rows4<false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<true>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<true>(d, R, tw); }
+template <> void radix4_rows4_soa_after_first<false>(float* d, int64_t R, const float* tw)
+{
+    rows4_soa_32fc<false, false, true>(d, R, tw);
+}
+template <> void radix4_rows4_soa_after_first<true>(float* d, int64_t R, const float* tw)
+{
+    rows4_soa_32fc<true, false, true>(d, R, tw);
+}
 template <> void radix4_rows4<true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
 
 template <>

@@ -7,6 +7,7 @@
 #include "internal/fft.h"
 #include "internal/fft_kernels.h"
 #include "internal/fft_simd.h"
+#include "internal/fft_soa.h"
 #include "internal/rfft.h"
 
 #include <emmintrin.h>
@@ -180,6 +181,31 @@ template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M,
         _mm_store_ps(w + 8 * r + 4, _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
     }
 }
+// gather_row for 32f with the value kept in registers.
+template <bool Inv> inline soa::Soa gather_soa(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct)
+{
+    const float* row = v.p + 2 * (r * M + c);
+    const __m128 x01 = _mm_loadu_ps(row), x23 = _mm_loadu_ps(row + 4);
+    const __m128 w01 = _mm_load_ps(ct + 8 * r), w23 = _mm_load_ps(ct + 8 * r + 4);
+    const __m128 xr = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(2, 0, 2, 0)), xi = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(3, 1, 3, 1));
+    const __m128 wr = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(2, 0, 2, 0)), wi = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(3, 1, 3, 1));
+    if (Inv) return {_mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
+    return {_mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
+}
+// Rows r .. r+3 of columns c .. c+3 gathered, with the column kernel's
+// first stage (a butterfly on each four rows) done on them, into w.
+template <bool Inv>
+inline void gather_first_stage(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
+{
+    soa::Soa x0, x1, x2, x3;
+    soa::bfly4_soa<Inv>(gather_soa<Inv>(v, r, M, c, ct), gather_soa<Inv>(v, r + 1, M, c, ct),
+                        gather_soa<Inv>(v, r + 2, M, c, ct), gather_soa<Inv>(v, r + 3, M, c, ct), x0, x1, x2, x3);
+    const soa::Soa x[4] = {x0, x1, x2, x3};
+    for (int u = 0; u < 4; ++u) {
+        _mm_store_ps(w + 8 * (r + u), x[u].r);
+        _mm_store_ps(w + 8 * (r + u) + 4, x[u].i);
+    }
+}
 inline void scatter_row(Inter<float> v, int64_t q, int64_t M, int64_t c, const float* w)
 {
     float* row = v.p + 2 * (q * M + c);
@@ -312,20 +338,22 @@ template <class S, bool Inv, class V> struct Large {
         float* const w0 = work;
         float* const w1 = second;
         const int64_t T = R * 8; // floats of the twiddles of one group of four
-        for (int64_t r = 0; r < R; ++r) {
-            gather_row<Inv>(v, r, M, 0, cols, w0);
-            gather_row<Inv>(v, r, M, 4, cols + T, w1);
+        for (int64_t r = 0; r < R; r += 4) {
+            gather_first_stage<Inv>(v, r, M, 0, cols, w0);
+            gather_first_stage<Inv>(v, r, M, 4, cols + T, w1);
         }
         for (int64_t c = 0; c < M; c += 8) {
-            columns<Inv>(w0, R, r4);
-            columns<Inv>(w1, R, r4);
+            radix4_rows4_soa_after_first<Inv>(w0, R, r4);
+            radix4_rows4_soa_after_first<Inv>(w1, R, r4);
             if (c + 8 < M) {
                 const float* next = cols + ((c + 8) / 4) * T;
-                for (int64_t r = 0; r < R; ++r) {
-                    scatter_row(v, r, M, c, w0);
-                    scatter_row(v, r, M, c + 4, w1);
-                    gather_row<Inv>(v, r, M, c + 8, next, w0);
-                    gather_row<Inv>(v, r, M, c + 12, next + T, w1);
+                for (int64_t r = 0; r < R; r += 4) {
+                    for (int u = 0; u < 4; ++u) {
+                        scatter_row(v, r + u, M, c, w0);
+                        scatter_row(v, r + u, M, c + 4, w1);
+                    }
+                    gather_first_stage<Inv>(v, r, M, c + 8, next, w0);
+                    gather_first_stage<Inv>(v, r, M, c + 12, next + T, w1);
                 }
             } else {
                 for (int64_t r = 0; r < R; ++r) {
