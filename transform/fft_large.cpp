@@ -165,23 +165,6 @@ template <bool Inv, class S> void merge_pass(Split<S> v, int64_t L, int64_t s, c
 // the driver walks the rows.
 // In 32f the rows of the work buffer hold [re x4, im x4] (the form of
 // radix4_rows4_soa).
-template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
-{
-    const float* row = v.p + 2 * (r * M + c);
-    const __m128 x01 = _mm_loadu_ps(row), x23 = _mm_loadu_ps(row + 4);
-    const __m128 w01 = _mm_load_ps(ct + 8 * r), w23 = _mm_load_ps(ct + 8 * r + 4);
-    const __m128 xr = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(2, 0, 2, 0)), xi = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(3, 1, 3, 1));
-    const __m128 wr = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(2, 0, 2, 0)), wi = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(3, 1, 3, 1));
-    // x * w, or x * conj(w) for the inverse.
-    if (Inv) {
-        _mm_store_ps(w + 8 * r, _mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
-        _mm_store_ps(w + 8 * r + 4, _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
-    } else {
-        _mm_store_ps(w + 8 * r, _mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
-        _mm_store_ps(w + 8 * r + 4, _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
-    }
-}
-// gather_row for 32f with the value kept in registers.
 template <bool Inv> inline soa::Soa gather_soa(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct)
 {
     const float* row = v.p + 2 * (r * M + c);
@@ -189,8 +172,15 @@ template <bool Inv> inline soa::Soa gather_soa(Inter<float> v, int64_t r, int64_
     const __m128 w01 = _mm_load_ps(ct + 8 * r), w23 = _mm_load_ps(ct + 8 * r + 4);
     const __m128 xr = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(2, 0, 2, 0)), xi = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(3, 1, 3, 1));
     const __m128 wr = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(2, 0, 2, 0)), wi = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(3, 1, 3, 1));
+    // x * w, or x * conj(w) for the inverse.
     if (Inv) return {_mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
     return {_mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
+}
+template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
+{
+    const soa::Soa x = gather_soa<Inv>(v, r, M, c, ct);
+    _mm_store_ps(w + 8 * r, x.r);
+    _mm_store_ps(w + 8 * r + 4, x.i);
 }
 // Rows r .. r+3 of columns c .. c+3 gathered, with the column kernel's
 // first stage (a butterfly on each four rows) done on them, into w.
@@ -331,7 +321,8 @@ template <class S, bool Inv, class V> struct Large {
     // 32f interleaved: eight columns (one cache line of a row) at a time,
     // in the work buffer and a second block on the stack. The walk that
     // scatters c .. c+7 and gathers c+8 .. c+15 then uses every row line it
-    // touches whole.
+    // touches whole, and it gathers four rows at a time to do the column
+    // kernel's first stage on them before they are stored.
     void columns_by_eight(Inter<float> v, int64_t R, int64_t M, const float* cols, const float* r4) const
     {
         alignas(64) float second[kSecondBlockFloats];
