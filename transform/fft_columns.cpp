@@ -272,7 +272,7 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
     using V = lanes::F4;
     using One = lanes::One<float>;
     const int64_t R = N / M;
-    const int F = log2_of(R), Q = log2_of(M);
+    const int F = log2_of(R);
     alignas(64) float blk[kSoaRowsFloats];
     float* const A = blk;
     float* const B = blk + 8 * M;
@@ -353,14 +353,19 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
         if (j == 0) {
             // Lane 0 of A: column 0, pairs (q R, (M - q) R), and the two
             // real values at 0 and N / 2 (places 0 and rev(M / 2) = 1).
-            for (int64_t q = 1; q < M / 2; ++q) one(q * R, A + 8 * rev_bits(q, Q), A + 8 * rev_bits(M - q, Q));
+            // rev(M - q) = (M - 1) ^ rev(q - 1).
+            for (int64_t q = 1, p = 0; q < M / 2; ++q) {
+                const int64_t pq = next_rev(p, q - 1, M);
+                one(q * R, A + 8 * pq, A + 8 * (p ^ (M - 1)));
+                p = pq;
+            }
             A[0] = s0 + s1;
             A[4] = s0 - s1;
             A[8] = 2.0f * src[N + off];
             A[12] = -2.0f * src[N + 1 + off];
             // Lane 0 of B: column R / 2, rows q and M - 1 - q.
-            for (int64_t q = 0; q < M / 2; ++q)
-                one(q * R + R / 2, B + 8 * rev_bits(q, Q), B + 8 * rev_bits(M - 1 - q, Q));
+            for (int64_t q = 0, p = 0; q < M / 2; p = next_rev(p, q, M), ++q)
+                one(q * R + R / 2, B + 8 * p, B + 8 * (p ^ (M - 1)));
             rowB[0] = dst + 2 * M * rev_bits(R / 2, F);
         }
         rows4_out<true>(A, rowA, M, tw, scaled, scale);
