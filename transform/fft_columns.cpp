@@ -205,15 +205,16 @@ void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const flo
     alignas(64) float blk[kSoaRowsFloats];
     // Places i .. i+3 (i = 4 t) hold q = rev(i) + {0, M/2, M/4, 3M/4}, rev(i)
     // = rev(t) over log2(M) - 2 bits: the kernel's first stage (a butterfly
-    // on each four places) is done right as they are read.
+    // on each four places) is done right as they are read. The walk goes
+    // up q0 = rev(t), so that the reads go up four streams.
     const int64_t qs[4] = {0, M / 2, M / 4, 3 * M / 4};
     for (int64_t j = 0; j < R; j += G) {
-        int64_t pt = 0; // rev(t)
-        for (int64_t t = 0; t < M / 4; ++t) {
+        int64_t t = 0; // rev(q0)
+        for (int64_t q0 = 0; q0 < M / 4; ++q0) {
             for (int h = 0; h < G / 4; ++h) {
                 Soa x[4];
                 for (int u = 0; u < 4; ++u) {
-                    const float* s = src + 2 * ((pt + qs[u]) * R + j) + 8 * h;
+                    const float* s = src + 2 * ((q0 + qs[u]) * R + j) + 8 * h;
                     const __m128 a = _mm_loadu_ps(s), b = _mm_loadu_ps(s + 4);
                     x[u] = {_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))};
                 }
@@ -225,7 +226,7 @@ void rows_from_src(const float* src, float* dst, int64_t N, int64_t M, const flo
                 store_soa(o + 16, y2);
                 store_soa(o + 24, y3);
             }
-            pt = next_rev(pt, t, M / 4);
+            t = next_rev(t, q0, M / 4);
         }
         for (int h = 0; h < G / 4; ++h) {
             float* row[4];
