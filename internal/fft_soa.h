@@ -57,7 +57,8 @@ template <bool Inv> inline void last_stage_bfly(const float* d, int64_t q, const
 namespace tavs::fft {
 
 // radix4_rows4_soa without its first stage (a butterfly on each four
-// consecutive rows), which the caller did on its way in.
-template <bool Inverse> void radix4_rows4_soa_after_first(float* d, int64_t R, const float* tw);
+// consecutive rows), which the caller did on its way in, on two blocks of
+// R rows at once (the same bits as on each alone).
+template <bool Inverse> void radix4_rows4_soa_after_first(float* d0, float* d1, int64_t R, const float* tw);
 
 } // namespace tavs::fft

@@ -74,64 +74,80 @@ template <bool Inv> void rows4_64fc(double* d, int64_t R, const double* tw)
 // rows4_32fc on rows in the [re x4, im x4] form: the same butterflies, the
 // rotations by -i or +i become a choice of operands. With SkipLast the last
 // stage (span R, always radix 4 for R >= 16) is left to the caller, with
-// SkipFirst the first (the caller did it on its way in).
-template <bool Inv, bool SkipLast = false, bool SkipFirst = false>
-void rows4_soa_32fc(float* d, int64_t R, const float* tw)
+// SkipFirst the first (the caller did it on its way in). With NB = 2 the
+// same on two blocks of rows at once, sharing the twiddles and the loops.
+template <bool Inv, bool SkipLast = false, bool SkipFirst = false, int NB = 1>
+void rows_soa_32fc(float* d0, float* d1, int64_t R, const float* tw)
 {
-    auto ld = [d](int64_t r) { return Soa{_mm_load_ps(d + 8 * r), _mm_load_ps(d + 8 * r + 4)}; };
-    auto st = [d](int64_t r, Soa v) {
+    auto ld = [](const float* d, int64_t r) { return Soa{_mm_load_ps(d + 8 * r), _mm_load_ps(d + 8 * r + 4)}; };
+    auto st = [](float* d, int64_t r, Soa v) {
         _mm_store_ps(d + 8 * r, v.r);
         _mm_store_ps(d + 8 * r + 4, v.i);
     };
-    for (int64_t i = 0; i < (SkipFirst ? 0 : R); i += 4) {
-        Soa x0, x1, x2, x3;
-        bfly4_soa<Inv>(ld(i), ld(i + 1), ld(i + 2), ld(i + 3), x0, x1, x2, x3);
-        st(i, x0);
-        st(i + 1, x1);
-        st(i + 2, x2);
-        st(i + 3, x3);
-    }
+    // Each step on block d0, then on d1 when there are two.
+    auto both = [&](auto step) {
+        step(d0);
+        if constexpr (NB == 2) step(d1);
+    };
+    for (int64_t i = 0; i < (SkipFirst ? 0 : R); i += 4)
+        both([&](float* d) {
+            Soa x0, x1, x2, x3;
+            bfly4_soa<Inv>(ld(d, i), ld(d, i + 1), ld(d, i + 2), ld(d, i + 3), x0, x1, x2, x3);
+            st(d, i, x0);
+            st(d, i + 1, x1);
+            st(d, i + 2, x2);
+            st(d, i + 3, x3);
+        });
     int64_t span = 16;
     if (R & 0xAAAAAAAAAAAAAAAAll) {
         const __m128 c = _mm_set1_ps(0.70710677f), mc = _mm_set1_ps(-0.70710677f), neg = _mm_set1_ps(-0.0f);
         for (int64_t i = 0; i < R; i += 8)
-            for (int k = 0; k < 4; ++k) {
-                const Soa e = ld(i + k);
-                Soa o = ld(i + 4 + k);
-                if (k == 1) o = mul_soa<Inv>(o, c, mc);
-                else if (k == 2) o = Inv ? Soa{_mm_xor_ps(o.i, neg), o.r} : Soa{o.i, _mm_xor_ps(o.r, neg)};
-                else if (k == 3) o = mul_soa<Inv>(o, mc, mc);
-                st(i + k, {_mm_add_ps(e.r, o.r), _mm_add_ps(e.i, o.i)});
-                st(i + 4 + k, {_mm_sub_ps(e.r, o.r), _mm_sub_ps(e.i, o.i)});
-            }
+            for (int k = 0; k < 4; ++k)
+                both([&](float* d) {
+                    const Soa e = ld(d, i + k);
+                    Soa o = ld(d, i + 4 + k);
+                    if (k == 1) o = mul_soa<Inv>(o, c, mc);
+                    else if (k == 2) o = Inv ? Soa{_mm_xor_ps(o.i, neg), o.r} : Soa{o.i, _mm_xor_ps(o.r, neg)};
+                    else if (k == 3) o = mul_soa<Inv>(o, mc, mc);
+                    st(d, i + k, {_mm_add_ps(e.r, o.r), _mm_add_ps(e.i, o.i)});
+                    st(d, i + 4 + k, {_mm_sub_ps(e.r, o.r), _mm_sub_ps(e.i, o.i)});
+                });
         span = 32;
     }
     for (; span <= (SkipLast ? R / 4 : R); span *= 4) {
         const int64_t q = span / 4, stride = 6 * (R / span);
-        for (int64_t b = 0; b < R; b += span) {
-            Soa x0, x1, x2, x3;
-            bfly4_soa<Inv>(ld(b), ld(b + q), ld(b + 2 * q), ld(b + 3 * q), x0, x1, x2, x3);
-            st(b, x0);
-            st(b + q, x1);
-            st(b + 2 * q, x2);
-            st(b + 3 * q, x3);
-        }
+        for (int64_t b = 0; b < R; b += span)
+            both([&](float* d) {
+                Soa x0, x1, x2, x3;
+                bfly4_soa<Inv>(ld(d, b), ld(d, b + q), ld(d, b + 2 * q), ld(d, b + 3 * q), x0, x1, x2, x3);
+                st(d, b, x0);
+                st(d, b + q, x1);
+                st(d, b + 2 * q, x2);
+                st(d, b + 3 * q, x3);
+            });
         for (int64_t k = 1; k < q; ++k) {
             const float* t = tw + k * stride;
             const __m128 w1r = _mm_set1_ps(t[0]), w1i = _mm_set1_ps(t[1]);
             const __m128 w2r = _mm_set1_ps(t[2]), w2i = _mm_set1_ps(t[3]);
             const __m128 w3r = _mm_set1_ps(t[4]), w3i = _mm_set1_ps(t[5]);
-            for (int64_t b = k; b < R; b += span) {
-                Soa x0, x1, x2, x3;
-                bfly4_soa<Inv>(ld(b), mul_soa<Inv>(ld(b + q), w2r, w2i), mul_soa<Inv>(ld(b + 2 * q), w1r, w1i),
-                               mul_soa<Inv>(ld(b + 3 * q), w3r, w3i), x0, x1, x2, x3);
-                st(b, x0);
-                st(b + q, x1);
-                st(b + 2 * q, x2);
-                st(b + 3 * q, x3);
-            }
+            for (int64_t b = k; b < R; b += span)
+                both([&](float* d) {
+                    Soa x0, x1, x2, x3;
+                    bfly4_soa<Inv>(ld(d, b), mul_soa<Inv>(ld(d, b + q), w2r, w2i),
+                                   mul_soa<Inv>(ld(d, b + 2 * q), w1r, w1i), mul_soa<Inv>(ld(d, b + 3 * q), w3r, w3i),
+                                   x0, x1, x2, x3);
+                    st(d, b, x0);
+                    st(d, b + q, x1);
+                    st(d, b + 2 * q, x2);
+                    st(d, b + 3 * q, x3);
+                });
         }
     }
+}
+template <bool Inv, bool SkipLast = false, bool SkipFirst = false>
+void rows4_soa_32fc(float* d, int64_t R, const float* tw)
+{
+    rows_soa_32fc<Inv, SkipLast, SkipFirst, 1>(d, nullptr, R, tw);
 }
 
 // Four rows held side by side in blk (place k as [re x4, im x4]): the
@@ -377,13 +393,13 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
 template <> void radix4_rows4<false>(double* d, int64_t R, const double* tw) { rows4_64fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<false>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<false>(d, R, tw); }
 template <> void radix4_rows4_soa<true>(float* d, int64_t R, const float* tw) { rows4_soa_32fc<true>(d, R, tw); }
-template <> void radix4_rows4_soa_after_first<false>(float* d, int64_t R, const float* tw)
+template <> void radix4_rows4_soa_after_first<false>(float* d0, float* d1, int64_t R, const float* tw)
 {
-    rows4_soa_32fc<false, false, true>(d, R, tw);
+    rows_soa_32fc<false, false, true, 2>(d0, d1, R, tw);
 }
-template <> void radix4_rows4_soa_after_first<true>(float* d, int64_t R, const float* tw)
+template <> void radix4_rows4_soa_after_first<true>(float* d0, float* d1, int64_t R, const float* tw)
 {
-    rows4_soa_32fc<true, false, true>(d, R, tw);
+    rows_soa_32fc<true, false, true, 2>(d0, d1, R, tw);
 }
 template <> void radix4_rows4<true>(double* d, int64_t R, const double* tw) { rows4_64fc<true>(d, R, tw); }
 

@@ -334,8 +334,7 @@ template <class S, bool Inv, class V> struct Large {
             gather_first_stage<Inv>(v, r, M, 4, cols + T, w1);
         }
         for (int64_t c = 0; c < M; c += 8) {
-            radix4_rows4_soa_after_first<Inv>(w0, R, r4);
-            radix4_rows4_soa_after_first<Inv>(w1, R, r4);
+            radix4_rows4_soa_after_first<Inv>(w0, w1, R, r4);
             if (c + 8 < M) {
                 const float* next = cols + ((c + 8) / 4) * T;
                 for (int64_t r = 0; r < R; r += 4) {
