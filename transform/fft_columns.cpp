@@ -283,6 +283,13 @@ template <bool Inv> void rows_in_place(float* d, int64_t N, int64_t M, const flo
 // two real values) and column R / 2 (its own mirror) are done one pair at
 // a time; the latter takes lane 0 of block B in the first group, where
 // R - 0 is no column.
+//
+// The blocks are filled four places at a time, so that the kernel's first
+// stage (a butterfly on places i .. i + 3, i = 4 t) runs on the values as
+// they are made. Those places of A hold rows q0 = rev(i), q0 + M/2, q0 +
+// M/4, q0 + 3M/4, and the pairs that make them make places M - 4 - i ..
+// M - 1 - i of B: rows q0 and q0 + M/4 of A with their mirrors, and rows
+// M/2 - 1 - q0 and M/4 - 1 - q0 of B with theirs. The walk goes up q0.
 void real_rows_from_pre(const float* src, int off, float s0, float s1, const float* rtw, float* dst, int64_t N,
                         int64_t M, const float* tw, bool scaled, float scale)
 {
@@ -293,10 +300,6 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
     alignas(64) float blk[kSoaRowsFloats];
     float* const A = blk;
     float* const B = blk + 8 * M;
-    auto store_soa = [](float* o, V re, V im) {
-        _mm_store_ps(o, re.v);
-        _mm_store_ps(o + 4, im.v);
-    };
     // The pair with lower index k, one lane: (fr, fi) to the place at f,
     // (mr, mi) to the place at r (re at [0], im at [4]).
     auto one = [&](int64_t k, float* f, float* r) {
@@ -307,69 +310,49 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
         lanes::pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
         f[0] = fr.v, f[4] = fi.v, r[0] = mr.v, r[4] = mi.v;
     };
+    // Lower indices k + u in block A's lanes, mirrors in block B's.
+    auto up = [&](int64_t k, Soa& f, Soa& m) {
+        V a, b, c, e, tp, tq, fr, fi, mr, mi;
+        V::load_fwd(src + (2 * k + off), a, b);
+        V::load_rev(src + (2 * (N - k) + off), c, e);
+        V::load_fwd(rtw + 2 * k, tp, tq);
+        lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
+        f = {fr.v, fi.v};
+        m = {mr.v, mi.v};
+    };
+    // Lower indices k - u in block B's lanes, mirrors in block A's.
+    auto down = [&](int64_t k, Soa& f, Soa& m) {
+        V a, b, c, e, tp, tq, fr, fi, mr, mi;
+        V::load_rev(src + (2 * k + off), a, b);
+        V::load_fwd(src + (2 * (N - k) + off), c, e);
+        V::load_rev(rtw + 2 * k, tp, tq);
+        lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
+        f = {fr.v, fi.v};
+        m = {mr.v, mi.v};
+    };
+    // The same on lanes 1 to 3 only, lane 0 left zero (it would be the
+    // pair of k = 0, or of k = N / 2).
+    auto up_edge = [&](int64_t k, Soa& f, Soa& m) {
+        alignas(16) float t[16] = {};
+        for (int u = 1; u < 4; ++u) one(k + u, t + u, t + 8 + u);
+        f = {_mm_load_ps(t), _mm_load_ps(t + 4)};
+        m = {_mm_load_ps(t + 8), _mm_load_ps(t + 12)};
+    };
+    auto down_edge = [&](int64_t k, Soa& f, Soa& m) {
+        alignas(16) float t[16] = {};
+        for (int u = 1; u < 4; ++u) one(k - u, t + u, t + 8 + u);
+        f = {_mm_load_ps(t), _mm_load_ps(t + 4)};
+        m = {_mm_load_ps(t + 8), _mm_load_ps(t + 12)};
+    };
+    // Lane 0 of x from the place at p (written there before).
+    auto lane0_from = [](Soa& x, const float* p) {
+        x.r = _mm_move_ss(x.r, _mm_load_ss(p));
+        x.i = _mm_move_ss(x.i, _mm_load_ss(p + 4));
+    };
     for (int64_t j = 0; j < R / 2; j += 4) {
-        int64_t p = 0; // rev(q); rev(M - 1 - q) is its complement
-        for (int64_t q = 0; q < M / 2; ++q) {
-            const int64_t pm = p ^ (M - 1);
-            float* const fa = A + 8 * p;
-            float* const ra = A + 8 * pm;
-            float* const fb = B + 8 * p;
-            float* const rb = B + 8 * pm;
-            // Lower indices k1 + u = q R + j + u (block A, row q), mirrors in
-            // block B, row M - 1 - q; lower indices k2 - u = q R + R - j - u
-            // (block B, row q), mirrors in block A, row M - 1 - q. Both groups
-            // are loaded before either is stored.
-            const int64_t k1 = q * R + j, k2 = (q + 1) * R - j;
-            V a, b, c, e, tp, tq, fr, fi, mr, mi;
-            V a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2;
-            if (j == 0 && (q == 0 || q == M / 2 - 1)) {
-                // Lane 0 would be k1 = 0 (q = 0) or k2 = N / 2 (q = M/2 - 1):
-                // that group goes one lane at a time, lanes 1 to 3.
-                if (q == 0) {
-                    for (int u = 1; u < 4; ++u) one(u, fa + u, rb + u);
-                } else {
-                    V::load_fwd(src + (2 * k1 + off), a, b);
-                    V::load_rev(src + (2 * (N - k1) + off), c, e);
-                    V::load_fwd(rtw + 2 * k1, tp, tq);
-                    lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
-                    store_soa(fa, fr, fi);
-                    store_soa(rb, mr, mi);
-                }
-                if (q == M / 2 - 1) {
-                    for (int u = 1; u < 4; ++u) one(k2 - u, fb + u, ra + u);
-                } else {
-                    V::load_rev(src + (2 * k2 + off), a2, b2);
-                    V::load_fwd(src + (2 * (N - k2) + off), c2, e2);
-                    V::load_rev(rtw + 2 * k2, tp2, tq2);
-                    lanes::pre_pair(a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2);
-                    store_soa(fb, fr2, fi2);
-                    store_soa(ra, mr2, mi2);
-                }
-            } else {
-                V::load_fwd(src + (2 * k1 + off), a, b);
-                V::load_rev(src + (2 * (N - k1) + off), c, e);
-                V::load_fwd(rtw + 2 * k1, tp, tq);
-                V::load_rev(src + (2 * k2 + off), a2, b2);
-                V::load_fwd(src + (2 * (N - k2) + off), c2, e2);
-                V::load_rev(rtw + 2 * k2, tp2, tq2);
-                lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
-                lanes::pre_pair(a2, b2, c2, e2, tp2, tq2, fr2, fi2, mr2, mi2);
-                store_soa(fa, fr, fi);
-                store_soa(rb, mr, mi);
-                store_soa(fb, fr2, fi2);
-                store_soa(ra, mr2, mi2);
-            }
-            p = next_rev(p, q, M);
-        }
-        float* rowA[4];
-        float* rowB[4];
-        for (int u = 0; u < 4; ++u) {
-            rowA[u] = dst + 2 * M * rev_bits(j + u, F);
-            rowB[u] = dst + 2 * M * rev_bits(R - j - u, F);
-        }
         if (j == 0) {
             // Lane 0 of A: column 0, pairs (q R, (M - q) R), and the two
-            // real values at 0 and N / 2 (places 0 and rev(M / 2) = 1).
+            // real values at 0 and N / 2 (places 0 and rev(M / 2) = 1);
             // rev(M - q) = (M - 1) ^ rev(q - 1).
             for (int64_t q = 1, p = 0; q < M / 2; ++q) {
                 const int64_t pq = next_rev(p, q - 1, M);
@@ -383,10 +366,47 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
             // Lane 0 of B: column R / 2, rows q and M - 1 - q.
             for (int64_t q = 0, p = 0; q < M / 2; p = next_rev(p, q, M), ++q)
                 one(q * R + R / 2, B + 8 * p, B + 8 * (p ^ (M - 1)));
-            rowB[0] = dst + 2 * M * rev_bits(R / 2, F);
         }
-        rows4_out<true>(A, rowA, M, tw, scaled, scale);
-        rows4_out<true>(B, rowB, M, tw, scaled, scale);
+        int64_t t = 0; // rev(q0) over log2(M) - 2 bits
+        for (int64_t q0 = 0; q0 < M / 4; ++q0) {
+            const int64_t i = 4 * t, g = M - 4 - i;
+            Soa a[4], b[4];
+            if (j == 0 && q0 == 0) {
+                up_edge(0, a[0], b[3]);
+                down_edge(N / 2, b[2], a[1]);
+            } else {
+                up(q0 * R + j, a[0], b[3]);
+                down((M / 2 - q0) * R - j, b[2], a[1]);
+            }
+            up((q0 + M / 4) * R + j, a[2], b[1]);
+            down((M / 4 - q0) * R - j, b[0], a[3]);
+            if (j == 0)
+                for (int u = 0; u < 4; ++u) {
+                    lane0_from(a[u], A + 8 * (i + u));
+                    lane0_from(b[u], B + 8 * (g + u));
+                }
+            Soa x0, x1, x2, x3;
+            bfly4_soa<true>(a[0], a[1], a[2], a[3], x0, x1, x2, x3);
+            store_soa(A + 8 * i, x0);
+            store_soa(A + 8 * i + 8, x1);
+            store_soa(A + 8 * i + 16, x2);
+            store_soa(A + 8 * i + 24, x3);
+            bfly4_soa<true>(b[0], b[1], b[2], b[3], x0, x1, x2, x3);
+            store_soa(B + 8 * g, x0);
+            store_soa(B + 8 * g + 8, x1);
+            store_soa(B + 8 * g + 16, x2);
+            store_soa(B + 8 * g + 24, x3);
+            t = next_rev(t, q0, M / 4);
+        }
+        float* rowA[4];
+        float* rowB[4];
+        for (int u = 0; u < 4; ++u) {
+            rowA[u] = dst + 2 * M * rev_bits(j + u, F);
+            rowB[u] = dst + 2 * M * rev_bits(R - j - u, F);
+        }
+        if (j == 0) rowB[0] = dst + 2 * M * rev_bits(R / 2, F);
+        rows4_out<true, true>(A, rowA, M, tw, scaled, scale);
+        rows4_out<true, true>(B, rowB, M, tw, scaled, scale);
     }
 }
 
