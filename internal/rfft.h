@@ -44,4 +44,19 @@ inline bool real_forward_blocks(const FloatSpec<double>*, bool, double, const do
 template <class S> Status real_forward(const FloatSpec<S>* spec, RealLayout lay, const S* src, S* dst, Tav8u* wsp);
 template <class S> Status real_inverse(const FloatSpec<S>* spec, RealLayout lay, const S* src, S* dst, Tav8u* wsp);
 
+// The real inverse out of place in 32f where the half length runs the
+// two-factor step with rows of at most 256 points (orders 14 to 17): the
+// pre-step is done while the rows are read in, straight from src into the
+// rows' local blocks, and the complex inverse goes on from there. Returns
+// false (nothing written) at the orders it does not cover. src and dst do
+// not overlap.
+bool real_inverse_fused(const FloatSpec<float>* spec, float s0, float s1, const float* src, int off, float* dst,
+                        unsigned char* work);
+// Its row half: the pre-step of the real record's table rtw (one level) on
+// src, the values taken in the bit-reversed order of the N-point complex
+// inverse, its R = N / M rows of M points transformed (table tw) and
+// written to dst. 16 * M <= kSoaRowsFloats, R >= 8.
+void real_rows_from_pre(const float* src, int off, float s0, float s1, const float* rtw, float* dst, int64_t N,
+                        int64_t M, const float* tw, bool scaled, float scale);
+
 } // namespace tavs::fft

@@ -113,6 +113,20 @@ inline D2 operator+(D2 a, D2 b) { return {_mm_add_pd(a.v, b.v)}; }
 inline D2 operator-(D2 a, D2 b) { return {_mm_sub_pd(a.v, b.v)}; }
 inline D2 operator*(D2 a, D2 b) { return {_mm_mul_pd(a.v, b.v)}; }
 
+// The real inverse's pre-step on a group of pairs: (a, b) the values at k,
+// (c, e) at M - k, (p, q) the twiddle (cos t, -sin t) of k; (fr, fi) goes to
+// k, (mr, mi) to M - k. k is always the lower index of its pair (the
+// twiddle table covers k < M / 2 only).
+template <class V> inline void pre_pair(V a, V b, V c, V e, V p, V q, V& fr, V& fi, V& mr, V& mi)
+{
+    const V u = a - c, v = b + e;
+    const V g = q * u - p * v, h = p * u + q * v;
+    fr = a + c + g;
+    fi = b - e + h;
+    mr = a + c - g;
+    mi = h - (b - e);
+}
+
 // The register lane type of S.
 template <class S> struct Wide;
 template <> struct Wide<float> {

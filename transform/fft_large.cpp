@@ -7,6 +7,8 @@
 #include "internal/fft.h"
 #include "internal/fft_kernels.h"
 #include "internal/fft_simd.h"
+#include "internal/fft_soa.h"
+#include "internal/rfft.h"
 
 #include <emmintrin.h>
 
@@ -163,7 +165,7 @@ template <bool Inv, class S> void merge_pass(Split<S> v, int64_t L, int64_t s, c
 // the driver walks the rows.
 // In 32f the rows of the work buffer hold [re x4, im x4] (the form of
 // radix4_rows4_soa).
-template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
+template <bool Inv> inline soa::Soa gather_soa(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct)
 {
     const float* row = v.p + 2 * (r * M + c);
     const __m128 x01 = _mm_loadu_ps(row), x23 = _mm_loadu_ps(row + 4);
@@ -171,12 +173,27 @@ template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M,
     const __m128 xr = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(2, 0, 2, 0)), xi = _mm_shuffle_ps(x01, x23, _MM_SHUFFLE(3, 1, 3, 1));
     const __m128 wr = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(2, 0, 2, 0)), wi = _mm_shuffle_ps(w01, w23, _MM_SHUFFLE(3, 1, 3, 1));
     // x * w, or x * conj(w) for the inverse.
-    if (Inv) {
-        _mm_store_ps(w + 8 * r, _mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
-        _mm_store_ps(w + 8 * r + 4, _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
-    } else {
-        _mm_store_ps(w + 8 * r, _mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)));
-        _mm_store_ps(w + 8 * r + 4, _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi)));
+    if (Inv) return {_mm_add_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_sub_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
+    return {_mm_sub_ps(_mm_mul_ps(xr, wr), _mm_mul_ps(xi, wi)), _mm_add_ps(_mm_mul_ps(xi, wr), _mm_mul_ps(xr, wi))};
+}
+template <bool Inv> inline void gather_row(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
+{
+    const soa::Soa x = gather_soa<Inv>(v, r, M, c, ct);
+    _mm_store_ps(w + 8 * r, x.r);
+    _mm_store_ps(w + 8 * r + 4, x.i);
+}
+// Rows r .. r+3 of columns c .. c+3 gathered, with the column kernel's
+// first stage (a butterfly on each four rows) done on them, into w.
+template <bool Inv>
+inline void gather_first_stage(Inter<float> v, int64_t r, int64_t M, int64_t c, const float* ct, float* w)
+{
+    soa::Soa x0, x1, x2, x3;
+    soa::bfly4_soa<Inv>(gather_soa<Inv>(v, r, M, c, ct), gather_soa<Inv>(v, r + 1, M, c, ct),
+                        gather_soa<Inv>(v, r + 2, M, c, ct), gather_soa<Inv>(v, r + 3, M, c, ct), x0, x1, x2, x3);
+    const soa::Soa x[4] = {x0, x1, x2, x3};
+    for (int u = 0; u < 4; ++u) {
+        _mm_store_ps(w + 8 * (r + u), x[u].r);
+        _mm_store_ps(w + 8 * (r + u) + 4, x[u].i);
     }
 }
 inline void scatter_row(Inter<float> v, int64_t q, int64_t M, int64_t c, const float* w)
@@ -226,6 +243,10 @@ template <bool Inv> inline void columns(double* w, int64_t R, const double* tw) 
 
 // ---- the large path -------------------------------------------------------------
 
+// Floats of the second column block of the 32f column pass (columns of up
+// to 256 points: 8 KB on the stack).
+constexpr int64_t kSecondBlockFloats = 2048;
+
 template <class S, bool Inv, class V> struct Large {
     const FloatSpec<S>* spec;
     bool scaled;
@@ -273,6 +294,12 @@ template <class S, bool Inv, class V> struct Large {
         const int64_t R = int64_t(1) << F, M = int64_t(1) << (m - F);
         const S* cols = spec->levelColumns[level];
         const S* r4 = spec->levelRadixFour[level];
+        if constexpr (std::is_same_v<V, Inter<float>>) {
+            if (R * 8 <= kSecondBlockFloats && M % 8 == 0) {
+                columns_by_eight(v, R, M, cols, r4);
+                return;
+            }
+        }
         // The scatter of columns c .. c+3 and the gather of c+4 .. c+7 share
         // one walk over the rows: both touch the same cache line of a row,
         // which is then fetched once instead of twice.
@@ -287,6 +314,42 @@ template <class S, bool Inv, class V> struct Large {
                 }
             } else {
                 for (int64_t r = 0; r < R; ++r) scatter_row(v, r, M, c, work);
+            }
+        }
+    }
+
+    // 32f interleaved: eight columns (one cache line of a row) at a time,
+    // in the work buffer and a second block on the stack. The walk that
+    // scatters c .. c+7 and gathers c+8 .. c+15 then uses every row line it
+    // touches whole, and it gathers four rows at a time to do the column
+    // kernel's first stage on them before they are stored.
+    void columns_by_eight(Inter<float> v, int64_t R, int64_t M, const float* cols, const float* r4) const
+    {
+        alignas(64) float second[kSecondBlockFloats];
+        float* const w0 = work;
+        float* const w1 = second;
+        const int64_t T = R * 8; // floats of the twiddles of one group of four
+        for (int64_t r = 0; r < R; r += 4) {
+            gather_first_stage<Inv>(v, r, M, 0, cols, w0);
+            gather_first_stage<Inv>(v, r, M, 4, cols + T, w1);
+        }
+        for (int64_t c = 0; c < M; c += 8) {
+            radix4_rows4_soa_after_first<Inv>(w0, w1, R, r4);
+            if (c + 8 < M) {
+                const float* next = cols + ((c + 8) / 4) * T;
+                for (int64_t r = 0; r < R; r += 4) {
+                    for (int u = 0; u < 4; ++u) {
+                        scatter_row(v, r + u, M, c, w0);
+                        scatter_row(v, r + u, M, c + 4, w1);
+                    }
+                    gather_first_stage<Inv>(v, r, M, c + 8, next, w0);
+                    gather_first_stage<Inv>(v, r, M, c + 12, next + T, w1);
+                }
+            } else {
+                for (int64_t r = 0; r < R; ++r) {
+                    scatter_row(v, r, M, c, w0);
+                    scatter_row(v, r, M, c + 4, w1);
+                }
             }
         }
     }
@@ -377,6 +440,22 @@ template void complex_interleaved_reversed<float>(const FloatSpec<float>*, int, 
                                                   unsigned char*);
 template void complex_interleaved_reversed<double>(const FloatSpec<double>*, int, bool, bool, double, double*,
                                                    unsigned char*);
+
+bool real_inverse_fused(const FloatSpec<float>* spec, float s0, float s1, const float* src, int off, float* dst,
+                        unsigned char* work)
+{
+    const int m = spec->order - 1;
+    if (!soa_rows_fit<float>(m) || spec->order >= Dims<float>::kTwoLevelReal) return false;
+    const int F = first_factor_bits<float>(m);
+    const int64_t N = int64_t(1) << m, M = N >> F;
+    if (16 * M > kSoaRowsFloats || (N / M) < 8) return false;
+    const bool scaled = spec->invScales != 0;
+    const float scale = spec->scale.value;
+    real_rows_from_pre(src, off, s0, s1, spec->realInv, dst, N, M, spec->radixFour, scaled, scale);
+    Large<float, true, Inter<float>>{spec, scaled, scale, reinterpret_cast<float*>(work), true}.columns_pass(
+        Inter<float>{dst}, m, 0);
+    return true;
+}
 
 template <class S>
 void complex_split(const FloatSpec<S>* spec, int m, bool inverse, bool scaled, S scale, const S* srcRe,

@@ -16,6 +16,7 @@ namespace tavs::fft {
 namespace {
 
 using lanes::One;
+using lanes::pre_pair;
 using lanes::Wide;
 
 // Runs body<V>(k) over k in [k0, k1), register lanes first, then one pair
@@ -30,19 +31,6 @@ template <class S, class Body> inline void over_pairs(int64_t k0, int64_t k1, Bo
 
 // True when the record's real tables have the two-level form.
 template <class S> bool two_level(const FloatSpec<S>* spec) { return spec->order >= Dims<S>::kTwoLevelReal; }
-
-// The pre-step's arithmetic on a group of pairs: (a, b) the values at k,
-// (c, e) at M - k, (p, q) the twiddle (cos t, -sin t) of k; (fr, fi) goes to
-// k, (mr, mi) to M - k.
-template <class V> inline void pre_pair(V a, V b, V c, V e, V p, V q, V& fr, V& fi, V& mr, V& mi)
-{
-    const V u = a - c, v = b + e;
-    const V g = q * u - p * v, h = p * u + q * v;
-    fr = a + c + g;
-    fi = b - e + h;
-    mr = a + c - g;
-    mi = h - (b - e);
-}
 
 // The inverse twiddle of the lanes k .. k + W - 1 (all in one block of the
 // two-level table): the small table directly, or the product of the outer
