@@ -310,37 +310,30 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
         lanes::pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
         f[0] = fr.v, f[4] = fi.v, r[0] = mr.v, r[4] = mi.v;
     };
-    // Lower indices k + u in block A's lanes, mirrors in block B's.
-    auto up = [&](int64_t k, Soa& f, Soa& m) {
+    // Lower indices k + u in block A's lanes, mirrors in block B's; with
+    // down, lower indices k - u in block B's lanes, mirrors in block A's.
+    auto group = [&]<bool Down>(int64_t k, Soa& f, Soa& m) {
         V a, b, c, e, tp, tq, fr, fi, mr, mi;
-        V::load_fwd(src + (2 * k + off), a, b);
-        V::load_rev(src + (2 * (N - k) + off), c, e);
-        V::load_fwd(rtw + 2 * k, tp, tq);
+        if constexpr (Down) {
+            V::load_rev(src + (2 * k + off), a, b);
+            V::load_fwd(src + (2 * (N - k) + off), c, e);
+            V::load_rev(rtw + 2 * k, tp, tq);
+        } else {
+            V::load_fwd(src + (2 * k + off), a, b);
+            V::load_rev(src + (2 * (N - k) + off), c, e);
+            V::load_fwd(rtw + 2 * k, tp, tq);
+        }
         lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
         f = {fr.v, fi.v};
         m = {mr.v, mi.v};
     };
-    // Lower indices k - u in block B's lanes, mirrors in block A's.
-    auto down = [&](int64_t k, Soa& f, Soa& m) {
-        V a, b, c, e, tp, tq, fr, fi, mr, mi;
-        V::load_rev(src + (2 * k + off), a, b);
-        V::load_fwd(src + (2 * (N - k) + off), c, e);
-        V::load_rev(rtw + 2 * k, tp, tq);
-        lanes::pre_pair(a, b, c, e, tp, tq, fr, fi, mr, mi);
-        f = {fr.v, fi.v};
-        m = {mr.v, mi.v};
-    };
-    // The same on lanes 1 to 3 only, lane 0 left zero (it would be the
-    // pair of k = 0, or of k = N / 2).
-    auto up_edge = [&](int64_t k, Soa& f, Soa& m) {
+    auto up = [&](int64_t k, Soa& f, Soa& m) { group.template operator()<false>(k, f, m); };
+    auto down = [&](int64_t k, Soa& f, Soa& m) { group.template operator()<true>(k, f, m); };
+    // The same on lanes 1 to 3 only (lower indices k + dir u), lane 0 left
+    // zero (it would be the pair of k = 0, or of k = N / 2).
+    auto edge = [&](int64_t k, int64_t dir, Soa& f, Soa& m) {
         alignas(16) float t[16] = {};
-        for (int u = 1; u < 4; ++u) one(k + u, t + u, t + 8 + u);
-        f = {_mm_load_ps(t), _mm_load_ps(t + 4)};
-        m = {_mm_load_ps(t + 8), _mm_load_ps(t + 12)};
-    };
-    auto down_edge = [&](int64_t k, Soa& f, Soa& m) {
-        alignas(16) float t[16] = {};
-        for (int u = 1; u < 4; ++u) one(k - u, t + u, t + 8 + u);
+        for (int u = 1; u < 4; ++u) one(k + dir * u, t + u, t + 8 + u);
         f = {_mm_load_ps(t), _mm_load_ps(t + 4)};
         m = {_mm_load_ps(t + 8), _mm_load_ps(t + 12)};
     };
@@ -372,8 +365,8 @@ void real_rows_from_pre(const float* src, int off, float s0, float s1, const flo
             const int64_t i = 4 * t, g = M - 4 - i;
             Soa a[4], b[4];
             if (j == 0 && q0 == 0) {
-                up_edge(0, a[0], b[3]);
-                down_edge(N / 2, b[2], a[1]);
+                edge(0, 1, a[0], b[3]);
+                edge(N / 2, -1, b[2], a[1]);
             } else {
                 up(q0 * R + j, a[0], b[3]);
                 down((M / 2 - q0) * R - j, b[2], a[1]);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <initializer_list>
 #include <vector>
 
 #include "alloc_fault.h"
@@ -180,6 +181,34 @@ TYPED_TEST(RealExec, RoundTripsWithEveryFlag)
     }
 }
 
+// The inverse of a random spectrum in layout l out of place, into dst at
+// each (byte offset, work buffer) case, against the same in place: the same
+// bits, the source untouched, nothing written outside dst.
+struct OutCase {
+    size_t off;
+    Tav8u* wsp;
+};
+template <class P>
+void inverse_matches_in_place(tt::Rng& rng, const typename P::Spec* spec, int order, int l,
+                              std::initializer_list<OutCase> cases)
+{
+    using S = typename P::S;
+    const size_t n = size_t(1) << order;
+    std::vector<S> in(rt::layout_len(l, n));
+    for (S& v : in) v = S(rng.uniform(-1.0, 1.0));
+    const std::vector<S> keep = in;
+    std::vector<S> io = in;
+    ASSERT_EQ(P::inv_i(l, io.data(), spec, nullptr), StatusOk);
+    for (const OutCase& c : cases) {
+        tt::Guarded<S> out(n, c.off);
+        ASSERT_EQ(P::inv(l, in.data(), out.data(), spec, c.wsp), StatusOk);
+        EXPECT_TRUE(out.borders_intact()) << P::name << " order " << order << " " << rt::layout_name(l);
+        EXPECT_EQ(in, keep) << "source changed";
+        EXPECT_EQ(std::memcmp(out.data(), io.data(), n * sizeof(S)), 0)
+            << P::name << " order " << order << " " << rt::layout_name(l) << (c.wsp ? " with buffer" : "");
+    }
+}
+
 // Out of place the inverse writes the pre-step into bit-reversed order (or
 // goes through a scratch block at small orders); in place it keeps the
 // pre-step in natural order and the swap list. Both give the same bits, at
@@ -191,24 +220,9 @@ TYPED_TEST(RealExec, InverseOutOfPlaceEqualsInPlace)
     using S = typename P::S;
     tt::Rng rng(0x1e5u);
     for (int order = 6; order <= ft::kMaxTestedOrder; ++order) {
-        const size_t n = size_t(1) << order;
-        const int flag = order % 2 ? ScaleInvByLen : ScaleNever;
-        rt::Record<P> rec(order, flag);
-        for (int l : {Perm, Pack, CCS}) {
-            const size_t len = rt::layout_len(l, n);
-            std::vector<S> in(len);
-            for (S& v : in) v = S(rng.uniform(-1.0, 1.0));
-            const std::vector<S> keep = in;
-            std::vector<S> io = in;
-            ASSERT_EQ(P::inv_i(l, io.data(), rec.p, nullptr), StatusOk);
-            const size_t off = (size_t(order) * 5 % 16) * sizeof(S);
-            tt::Guarded<S> out(n, off);
-            ASSERT_EQ(P::inv(l, in.data(), out.data(), rec.p, nullptr), StatusOk);
-            EXPECT_TRUE(out.borders_intact()) << P::name << " order " << order << " " << rt::layout_name(l);
-            EXPECT_EQ(in, keep) << "source changed";
-            EXPECT_EQ(std::memcmp(out.data(), io.data(), n * sizeof(S)), 0)
-                << P::name << " order " << order << " " << rt::layout_name(l);
-        }
+        rt::Record<P> rec(order, order % 2 ? ScaleInvByLen : ScaleNever);
+        for (int l : {Perm, Pack, CCS})
+            inverse_matches_in_place<P>(rng, rec.p, order, l, {{(size_t(order) * 5 % 16) * sizeof(S), nullptr}});
     }
 }
 
@@ -223,31 +237,15 @@ TYPED_TEST(RealExec, InverseWithPreStepInTheRowsEqualsInPlace)
     using P = TypeParam;
     using S = typename P::S;
     tt::Rng rng(0x7a11u);
-    for (int order = 13; order <= 18; ++order) {
-        const size_t n = size_t(1) << order;
+    for (int order = 13; order <= 18; ++order)
         for (int flag : {ScaleNever, ScaleInvByLen, ScaleBothBySqrtLen}) {
             rt::Record<P> rec(order, flag);
             int bufSize = 0;
             ASSERT_EQ(P::buf_size(rec.p, &bufSize), StatusOk);
             std::vector<Tav8u> buf(size_t(bufSize) + 64);
-            for (int l : {Perm, Pack, CCS}) {
-                const size_t len = rt::layout_len(l, n);
-                std::vector<S> in(len);
-                for (S& v : in) v = S(rng.uniform(-1.0, 1.0));
-                const std::vector<S> keep = in;
-                std::vector<S> io = in;
-                ASSERT_EQ(P::inv_i(l, io.data(), rec.p, nullptr), StatusOk);
-                for (bool own : {false, true}) {
-                    tt::Guarded<S> out(n, own ? 4 * sizeof(S) : 0);
-                    ASSERT_EQ(P::inv(l, in.data(), out.data(), rec.p, own ? buf.data() : nullptr), StatusOk);
-                    EXPECT_TRUE(out.borders_intact()) << P::name << " order " << order << " " << rt::layout_name(l);
-                    EXPECT_EQ(in, keep) << "source changed";
-                    EXPECT_EQ(std::memcmp(out.data(), io.data(), n * sizeof(S)), 0)
-                        << P::name << " order " << order << " flag " << flag << " " << rt::layout_name(l);
-                }
-            }
+            for (int l : {Perm, Pack, CCS})
+                inverse_matches_in_place<P>(rng, rec.p, order, l, {{0, nullptr}, {4 * sizeof(S), buf.data()}});
         }
-    }
 }
 
 // Record null, then its tag, then the data pointers; nothing written.
