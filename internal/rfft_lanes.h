@@ -127,6 +127,19 @@ template <class V> inline void pre_pair(V a, V b, V c, V e, V p, V q, V& fr, V& 
     mi = h - (b - e);
 }
 
+// The forward post-step on a group of pairs with the small table: (a, b)
+// the values at k, (c, e) at M - k, (p, q) the table entry of k; (fr, fi)
+// goes to k, (mr, mi) to M - k.
+template <class V> inline void post_pair(V a, V b, V c, V e, V p, V q, V& fr, V& fi, V& mr, V& mi)
+{
+    const V u = a - c, v = b + e;
+    const V w = p * v + q * u, x = v * q - u * p;
+    fr = c + w;
+    fi = x - e;
+    mr = a - w;
+    mi = x - b;
+}
+
 // The register lane type of S.
 template <class S> struct Wide;
 template <> struct Wide<float> {

@@ -7,12 +7,15 @@
 #include "internal/body.h"
 #include "internal/fft_kernels.h"
 #include "internal/rfft.h"
+#include "internal/rfft_lanes.h"
 
 #include <emmintrin.h>
 
 namespace tavs::fft {
 
 namespace {
+
+using lanes::F4;
 
 // The post-step on M complex values held as M/4 blocks. Group j is the pairs
 // k = 4j .. 4j+3 (block j); their mirrors M - k are lane 0 of block M/4 - j
@@ -36,14 +39,10 @@ void post_step_blocks(const float* tw, float* d, int64_t M)
         float* pa = d + 8 * j;
         const __m128 a = _mm_loadu_ps(pa), b = _mm_loadu_ps(pa + 4);
         const __m128 t0 = _mm_load_ps(tw + 8 * j), t1 = _mm_load_ps(tw + 8 * j + 4);
-        const __m128 p = _mm_shuffle_ps(t0, t1, _MM_SHUFFLE(2, 0, 2, 0));
-        const __m128 q = _mm_shuffle_ps(t0, t1, _MM_SHUFFLE(3, 1, 3, 1));
-        // u = a - c, v = b + d, w = p v + q u, x = v q - u p.
-        const __m128 u = _mm_sub_ps(a, c), v = _mm_add_ps(b, e);
-        const __m128 w = _mm_add_ps(_mm_mul_ps(p, v), _mm_mul_ps(q, u));
-        const __m128 x = _mm_sub_ps(_mm_mul_ps(v, q), _mm_mul_ps(u, p));
-        const __m128 fr = _mm_add_ps(c, w), fi = _mm_sub_ps(x, e);
-        const __m128 mr = _mm_sub_ps(a, w), mi = _mm_sub_ps(x, b);
+        const F4 p{_mm_shuffle_ps(t0, t1, _MM_SHUFFLE(2, 0, 2, 0))}, q{_mm_shuffle_ps(t0, t1, _MM_SHUFFLE(3, 1, 3, 1))};
+        F4 f4r, f4i, m4r, m4i;
+        lanes::post_pair(F4{a}, F4{b}, F4{c}, F4{e}, p, q, f4r, f4i, m4r, m4i);
+        const __m128 fr = f4r.v, fi = f4i.v, mr = m4r.v, mi = m4i.v;
         _mm_storeu_ps(pa, _mm_unpacklo_ps(fr, fi));
         _mm_storeu_ps(pa + 4, _mm_unpackhi_ps(fr, fi));
         // Mirror lanes i at complex M - 4j - i: lanes (1, 0), then (3, 2).

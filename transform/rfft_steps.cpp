@@ -63,14 +63,13 @@ template <class S> void real_post_step(const FloatSpec<S>* spec, S* d)
     if (!two_level(spec)) {
         // (p, q) = (0.5 cos t, 0.5 - 0.5 sin t): one multiplication set per pair.
         over_pairs<S>(1, M / 2, [&]<class V>(int64_t k) {
-            V a, b, c, e, p, q;
+            V a, b, c, e, p, q, fr, fi, mr, mi;
             V::load_fwd(d + 2 * k, a, b);
             V::load_rev(d + 2 * (M - k), c, e);
             V::load_fwd(tw + 2 * k, p, q);
-            const V u = a - c, v = b + e;
-            const V w = p * v + q * u, x = v * q - u * p;
-            V::store_fwd(d + 2 * k, c + w, x - e);
-            V::store_rev(d + 2 * (M - k), a - w, x - b);
+            lanes::post_pair(a, b, c, e, p, q, fr, fi, mr, mi);
+            V::store_fwd(d + 2 * k, fr, fi);
+            V::store_rev(d + 2 * (M - k), mr, mi);
         });
     } else {
         // Inner entries (cos, -sin) of t = 2 pi k / N for k below the block,
