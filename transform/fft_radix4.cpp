@@ -108,9 +108,10 @@ void first_pass_pairs_32(float* d, int64_t N, int64_t L, const float* tw, Load l
 }
 
 // Real and imaginary parts of the table entries k .. k+3 (stride floats
-// apart), conjugated for the inverse; the entry k = 0 is not read when first
-// is set: lane 0 becomes exactly 1.
-template <bool Inv> inline void twiddle4(const float* t, int64_t stride, bool first, __m128& wr, __m128& wi)
+// apart); the entry k = 0 is not read when first is set: lane 0 becomes
+// exactly 1. The inverse conjugates in its products (blocks_bfly), so both
+// directions take the entries as they are.
+inline void twiddle4(const float* t, int64_t stride, bool first, __m128& wr, __m128& wi)
 {
     const __m128 c01 = load2(first ? t + stride : t, t + stride);
     const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
@@ -120,74 +121,102 @@ template <bool Inv> inline void twiddle4(const float* t, int64_t stride, bool fi
         wr = _mm_move_ss(wr, _mm_set_ss(1.0f));
         wi = _mm_move_ss(wi, _mm_setzero_ps());
     }
-    if (Inv) wi = _mm_xor_ps(wi, _mm_set1_ps(-0.0f));
+}
+
+// The twiddles of one group of four k: W^k, W^2k, W^3k.
+struct Tw4 {
+    __m128 r1, i1, r2, i2, r3, i3;
+};
+inline Tw4 twiddles4(const float* t, int64_t stride, bool first)
+{
+    Tw4 w;
+    twiddle4(t, stride, first, w.r1, w.i1);
+    twiddle4(t + 2, stride, first, w.r2, w.i2);
+    twiddle4(t + 4, stride, first, w.r3, w.i3);
+    return w;
+}
+
+// One radix-4 butterfly on four k side by side, quarters at p0 .. p3 in
+// blocks of four. x * conj(w) in the inverse is (xr wr + xi wi, xi wr - xr
+// wi): the same bits as the product with the negated imaginary part. The
+// last stage writes the interleaved form back.
+template <bool Inv, bool Last>
+inline void blocks_bfly(float* p0, float* p1, float* p2, float* p3, const Tw4& w)
+{
+    const __m128 ar = _mm_loadu_ps(p0), ai = _mm_loadu_ps(p0 + 4);
+    // Quarter 1 times W^2k, quarter 2 times W^k, quarter 3 times W^3k.
+    auto twid = [](const float* p, __m128 r, __m128 i, __m128& yr, __m128& yi) {
+        const __m128 xr = _mm_loadu_ps(p), xi = _mm_loadu_ps(p + 4);
+        if (Inv) {
+            yr = _mm_add_ps(_mm_mul_ps(xr, r), _mm_mul_ps(xi, i));
+            yi = _mm_sub_ps(_mm_mul_ps(xi, r), _mm_mul_ps(xr, i));
+        } else {
+            yr = _mm_sub_ps(_mm_mul_ps(xr, r), _mm_mul_ps(xi, i));
+            yi = _mm_add_ps(_mm_mul_ps(xr, i), _mm_mul_ps(xi, r));
+        }
+    };
+    __m128 br, bi, cr, ci, dr, di;
+    twid(p1, w.r2, w.i2, br, bi);
+    twid(p2, w.r1, w.i1, cr, ci);
+    twid(p3, w.r3, w.i3, dr, di);
+    const __m128 t0r = _mm_add_ps(ar, br), t0i = _mm_add_ps(ai, bi);
+    const __m128 t1r = _mm_sub_ps(ar, br), t1i = _mm_sub_ps(ai, bi);
+    const __m128 t2r = _mm_add_ps(cr, dr), t2i = _mm_add_ps(ci, di);
+    const __m128 t3r = _mm_sub_ps(cr, dr), t3i = _mm_sub_ps(ci, di);
+    const __m128 x0r = _mm_add_ps(t0r, t2r), x0i = _mm_add_ps(t0i, t2i);
+    const __m128 x2r = _mm_sub_ps(t0r, t2r), x2i = _mm_sub_ps(t0i, t2i);
+    // X1 = t1 - i t3, X3 = t1 + i t3 forward; the other way inverse.
+    __m128 x1r, x1i, x3r, x3i;
+    if (Inv) {
+        x1r = _mm_sub_ps(t1r, t3i), x1i = _mm_add_ps(t1i, t3r);
+        x3r = _mm_add_ps(t1r, t3i), x3i = _mm_sub_ps(t1i, t3r);
+    } else {
+        x1r = _mm_add_ps(t1r, t3i), x1i = _mm_sub_ps(t1i, t3r);
+        x3r = _mm_sub_ps(t1r, t3i), x3i = _mm_add_ps(t1i, t3r);
+    }
+    auto put = [](float* p, __m128 r, __m128 i) {
+        if (Last) {
+            _mm_storeu_ps(p, _mm_unpacklo_ps(r, i));
+            _mm_storeu_ps(p + 4, _mm_unpackhi_ps(r, i));
+        } else {
+            _mm_storeu_ps(p, r);
+            _mm_storeu_ps(p + 4, i);
+        }
+    };
+    put(p0, x0r, x0i);
+    put(p1, x1r, x1i);
+    put(p2, x2r, x2i);
+    put(p3, x3r, x3i);
 }
 
 // One radix-4 stage of span `span` on blocks of four (k .. k+3); the
 // twiddles of those k serve every block of the stage, so k is the outer
-// loop. The last stage writes the interleaved form back (Last is a template
-// argument so each loop keeps its values in registers).
+// loop. A stage of span N is one block: its loop runs over k alone. Last
+// (a template argument so each loop keeps its values in registers) writes
+// the interleaved form back.
 template <bool Inv, bool Last> void stage_32(float* d, int64_t N, const float* tw, int64_t span)
 {
     const int64_t q = span / 4;
     const int64_t stride = 6 * (N / span);
-    for (int64_t k = 0; k < q; k += 4) {
-        __m128 wr0, wi0, wr1, wi1, wr2, wi2;
-        twiddle4<Inv>(tw + k * stride, stride, k == 0, wr0, wi0);
-        twiddle4<Inv>(tw + k * stride + 2, stride, k == 0, wr1, wi1);
-        twiddle4<Inv>(tw + k * stride + 4, stride, k == 0, wr2, wi2);
-        float* p0 = d + 2 * k;
-        for (int64_t b = 0; b < N; b += span, p0 += 2 * span) {
-            float* p1 = p0 + 2 * q;
-            float* p2 = p1 + 2 * q;
-            float* p3 = p2 + 2 * q;
-            const __m128 ar = _mm_loadu_ps(p0), ai = _mm_loadu_ps(p0 + 4);
-            // Quarter 1 times W^2k, quarter 2 times W^k, quarter 3 times W^3k.
-            auto twid = [](const float* p, __m128 r, __m128 i, __m128& yr, __m128& yi) {
-                const __m128 xr = _mm_loadu_ps(p), xi = _mm_loadu_ps(p + 4);
-                yr = _mm_sub_ps(_mm_mul_ps(xr, r), _mm_mul_ps(xi, i));
-                yi = _mm_add_ps(_mm_mul_ps(xr, i), _mm_mul_ps(xi, r));
-            };
-            __m128 br, bi, cr, ci, dr, di;
-            twid(p1, wr1, wi1, br, bi);
-            twid(p2, wr0, wi0, cr, ci);
-            twid(p3, wr2, wi2, dr, di);
-            const __m128 t0r = _mm_add_ps(ar, br), t0i = _mm_add_ps(ai, bi);
-            const __m128 t1r = _mm_sub_ps(ar, br), t1i = _mm_sub_ps(ai, bi);
-            const __m128 t2r = _mm_add_ps(cr, dr), t2i = _mm_add_ps(ci, di);
-            const __m128 t3r = _mm_sub_ps(cr, dr), t3i = _mm_sub_ps(ci, di);
-            const __m128 x0r = _mm_add_ps(t0r, t2r), x0i = _mm_add_ps(t0i, t2i);
-            const __m128 x2r = _mm_sub_ps(t0r, t2r), x2i = _mm_sub_ps(t0i, t2i);
-            // X1 = t1 - i t3, X3 = t1 + i t3 forward; the other way inverse.
-            __m128 x1r, x1i, x3r, x3i;
-            if (Inv) {
-                x1r = _mm_sub_ps(t1r, t3i), x1i = _mm_add_ps(t1i, t3r);
-                x3r = _mm_add_ps(t1r, t3i), x3i = _mm_sub_ps(t1i, t3r);
-            } else {
-                x1r = _mm_add_ps(t1r, t3i), x1i = _mm_sub_ps(t1i, t3r);
-                x3r = _mm_sub_ps(t1r, t3i), x3i = _mm_add_ps(t1i, t3r);
-            }
-            if (Last) {
-                _mm_storeu_ps(p0, _mm_unpacklo_ps(x0r, x0i));
-                _mm_storeu_ps(p0 + 4, _mm_unpackhi_ps(x0r, x0i));
-                _mm_storeu_ps(p1, _mm_unpacklo_ps(x1r, x1i));
-                _mm_storeu_ps(p1 + 4, _mm_unpackhi_ps(x1r, x1i));
-                _mm_storeu_ps(p2, _mm_unpacklo_ps(x2r, x2i));
-                _mm_storeu_ps(p2 + 4, _mm_unpackhi_ps(x2r, x2i));
-                _mm_storeu_ps(p3, _mm_unpacklo_ps(x3r, x3i));
-                _mm_storeu_ps(p3 + 4, _mm_unpackhi_ps(x3r, x3i));
-            } else {
-                _mm_storeu_ps(p0, x0r);
-                _mm_storeu_ps(p0 + 4, x0i);
-                _mm_storeu_ps(p1, x1r);
-                _mm_storeu_ps(p1 + 4, x1i);
-                _mm_storeu_ps(p2, x2r);
-                _mm_storeu_ps(p2 + 4, x2i);
-                _mm_storeu_ps(p3, x3r);
-                _mm_storeu_ps(p3 + 4, x3i);
-            }
-        }
+    if (span == N) {
+        // stride 6: the group's table entries are consecutive. The group of
+        // k = 0 first, so the loop reads every entry as it is.
+        auto group = [&](int64_t k, bool first) {
+            float* p0 = d + 2 * k;
+            blocks_bfly<Inv, Last>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, twiddles4(tw + 6 * k, 6, first));
+        };
+        group(0, true);
+        for (int64_t k = 4; k < q; k += 4) group(k, false);
+        return;
     }
+    auto column = [&](int64_t k, bool first) {
+        const Tw4 w = twiddles4(tw + k * stride, stride, first);
+        float* p0 = d + 2 * k;
+        for (int64_t b = 0; b < N; b += span, p0 += 2 * span)
+            blocks_bfly<Inv, Last>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w);
+    };
+    column(0, true);
+    for (int64_t k = 4; k < q; k += 4) column(k, false);
 }
 
 // The radix-4 stages after the first pass. With Blocks the last stage too
