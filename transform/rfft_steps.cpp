@@ -98,26 +98,48 @@ template <class S> void real_post_step(const FloatSpec<S>* spec, S* d)
 template void real_post_step<float>(const FloatSpec<float>*, float*);
 template void real_post_step<double>(const FloatSpec<double>*, double*);
 
+namespace {
+
+template <class S, bool Two> void pre_step_pairs(const FloatSpec<S>* spec, const S* src, int off, S* d)
+{
+    using V = typename Wide<S>::T;
+    const int64_t M = int64_t(1) << (spec->order - 1);
+    const S* tw = spec->realInv;
+    auto body = [&]<class L>(int64_t k) {
+        L a, b, c, e, p, q, fr, fi, mr, mi;
+        L::load_fwd(src + (2 * k + off), a, b);
+        L::load_rev(src + (2 * (M - k) + off), c, e);
+        inverse_twiddle<S>(tw, Two, k, p, q);
+        pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
+        L::store_fwd(d + 2 * k, fr, fi);
+        L::store_rev(d + 2 * (M - k), mr, mi);
+    };
+    // With two-level tables a group of lanes must not cross a block.
+    const int64_t B = Two ? Dims<S>::kRealBlock : M / 2;
+    for (int64_t base = 0; base < M / 2; base += B) {
+        const int64_t k0 = base == 0 ? 1 : base, k1 = base + B < M / 2 ? base + B : M / 2;
+        if (src != d && k1 - k0 > V::W && (k1 - k0) % V::W != 0) {
+            // Out of place, a short tail is one more group of lanes ending
+            // at k1: the pairs it shares with the group before are only
+            // written again with the same values.
+            int64_t k = k0;
+            for (; k + V::W <= k1; k += V::W) body.template operator()<V>(k);
+            body.template operator()<V>(k1 - V::W);
+        } else {
+            over_pairs<S>(k0, k1, body);
+        }
+    }
+}
+
+} // namespace
+
 template <class S> void real_pre_step(const FloatSpec<S>* spec, S s0, S s1, const S* src, int off, S* d)
 {
     const int64_t M = int64_t(1) << (spec->order - 1);
-    const S* tw = spec->realInv;
-    const bool two = two_level(spec);
     // s0 and s1 come as values: in place, d[1] may be the word of one of them.
     // The pairs never touch slots 0, 1, M, M + 1.
-    auto body = [&]<class V>(int64_t k) {
-        V a, b, c, e, p, q, fr, fi, mr, mi;
-        V::load_fwd(src + (2 * k + off), a, b);
-        V::load_rev(src + (2 * (M - k) + off), c, e);
-        inverse_twiddle<S>(tw, two, k, p, q);
-        pre_pair(a, b, c, e, p, q, fr, fi, mr, mi);
-        V::store_fwd(d + 2 * k, fr, fi);
-        V::store_rev(d + 2 * (M - k), mr, mi);
-    };
-    // With two-level tables a group of lanes must not cross a block.
-    const int64_t B = two ? Dims<S>::kRealBlock : M / 2;
-    for (int64_t base = 0; base < M / 2; base += B)
-        over_pairs<S>(base == 0 ? 1 : base, base + B < M / 2 ? base + B : M / 2, body);
+    if (two_level(spec)) pre_step_pairs<S, true>(spec, src, off, d);
+    else pre_step_pairs<S, false>(spec, src, off, d);
     d[0] = s0 + s1;
     d[1] = s0 - s1;
     d[M] = S(2) * src[M + off];
