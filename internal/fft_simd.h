@@ -44,6 +44,20 @@ inline void transpose4(__m128& r0, __m128& r1, __m128& r2, __m128& r3)
     r3 = _mm_movehl_ps(t3, t2);
 }
 
+// Real and imaginary parts of the radix-4 table entries k .. k+3 (stride
+// floats apart), for stages that run four k side by side in SSE2 lanes. The
+// entry k = 0 is not read when first is set: lane 0 then repeats entry 1,
+// and the stage does not use that lane's product (the butterfly of k = 0 is
+// not multiplied). Both directions take the entries as they are; the
+// inverse conjugates inside its products.
+inline void twiddle4(const float* t, int64_t stride, bool first, __m128& wr, __m128& wi)
+{
+    const __m128 c01 = load2(first ? t + stride : t, t + stride);
+    const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
+    wr = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(2, 0, 2, 0));
+    wi = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(3, 1, 3, 1));
+}
+
 // ---- 64f: [re im] ---------------------------------------------------------
 
 inline __m128d swap_ri(__m128d x) { return _mm_shuffle_pd(x, x, 1); }

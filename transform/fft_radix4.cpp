@@ -107,22 +107,6 @@ void first_pass_pairs_32(float* d, int64_t N, int64_t L, const float* tw, Load l
     }
 }
 
-// Real and imaginary parts of the table entries k .. k+3 (stride floats
-// apart); the entry k = 0 is not read when first is set: lane 0 becomes
-// exactly 1. The inverse conjugates in its products (blocks_bfly), so both
-// directions take the entries as they are.
-inline void twiddle4(const float* t, int64_t stride, bool first, __m128& wr, __m128& wi)
-{
-    const __m128 c01 = load2(first ? t + stride : t, t + stride);
-    const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
-    wr = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(2, 0, 2, 0));
-    wi = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(3, 1, 3, 1));
-    if (first) {
-        wr = _mm_move_ss(wr, _mm_set_ss(1.0f));
-        wi = _mm_move_ss(wi, _mm_setzero_ps());
-    }
-}
-
 // The twiddles of one group of four k: W^k, W^2k, W^3k.
 struct Tw4 {
     __m128 r1, i1, r2, i2, r3, i3;
@@ -138,9 +122,11 @@ inline Tw4 twiddles4(const float* t, int64_t stride, bool first)
 
 // One radix-4 butterfly on four k side by side, quarters at p0 .. p3 in
 // blocks of four. x * conj(w) in the inverse is (xr wr + xi wi, xi wr - xr
-// wi): the same bits as the product with the negated imaginary part. The
-// last stage writes the interleaved form back.
-template <bool Inv, bool Last>
+// wi): the same bits as the product with the negated imaginary part. In
+// the group of k = 0 (First) lane 0 is not multiplied: its values go into
+// the butterfly as they are. The last stage writes the interleaved form
+// back.
+template <bool Inv, bool Last, bool First = false>
 inline void blocks_bfly(float* p0, float* p1, float* p2, float* p3, const Tw4& w)
 {
     const __m128 ar = _mm_loadu_ps(p0), ai = _mm_loadu_ps(p0 + 4);
@@ -153,6 +139,10 @@ inline void blocks_bfly(float* p0, float* p1, float* p2, float* p3, const Tw4& w
         } else {
             yr = _mm_sub_ps(_mm_mul_ps(xr, r), _mm_mul_ps(xi, i));
             yi = _mm_add_ps(_mm_mul_ps(xr, i), _mm_mul_ps(xi, r));
+        }
+        if (First) {
+            yr = _mm_move_ss(yr, xr);
+            yi = _mm_move_ss(yi, xi);
         }
     };
     __m128 br, bi, cr, ci, dr, di;
@@ -201,22 +191,22 @@ template <bool Inv, bool Last> void stage_32(float* d, int64_t N, const float* t
     if (span == N) {
         // stride 6: the group's table entries are consecutive. The group of
         // k = 0 first, so the loop reads every entry as it is.
-        auto group = [&](int64_t k, bool first) {
+        auto group = [&]<bool First>(int64_t k) {
             float* p0 = d + 2 * k;
-            blocks_bfly<Inv, Last>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, twiddles4(tw + 6 * k, 6, first));
+            blocks_bfly<Inv, Last, First>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, twiddles4(tw + 6 * k, 6, First));
         };
-        group(0, true);
-        for (int64_t k = 4; k < q; k += 4) group(k, false);
+        group.template operator()<true>(0);
+        for (int64_t k = 4; k < q; k += 4) group.template operator()<false>(k);
         return;
     }
-    auto column = [&](int64_t k, bool first) {
-        const Tw4 w = twiddles4(tw + k * stride, stride, first);
+    auto column = [&]<bool First>(int64_t k) {
+        const Tw4 w = twiddles4(tw + k * stride, stride, First);
         float* p0 = d + 2 * k;
         for (int64_t b = 0; b < N; b += span, p0 += 2 * span)
-            blocks_bfly<Inv, Last>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w);
+            blocks_bfly<Inv, Last, First>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, w);
     };
-    column(0, true);
-    for (int64_t k = 4; k < q; k += 4) column(k, false);
+    column.template operator()<true>(0);
+    for (int64_t k = 4; k < q; k += 4) column.template operator()<false>(k);
 }
 
 // The radix-4 stages after the first pass. With Blocks the last stage too

@@ -29,24 +29,16 @@ template <class S> struct Lanes;
 template <> struct Lanes<float> {
     using V = __m128;
     static constexpr int n = 4;
-    // Real and imaginary parts of the table entries k .. k+3, stride apart
-    // (in floats); the entry k = 0, when asked for, is replaced by 1.
-    static void twiddle(const float* t, int64_t stride, bool first, V& wr, V& wi)
-    {
-        const __m128 c01 = load2(first ? t + stride : t, t + stride);
-        const __m128 c23 = load2(t + 2 * stride, t + 3 * stride);
-        wr = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(2, 0, 2, 0));
-        wi = _mm_shuffle_ps(c01, c23, _MM_SHUFFLE(3, 1, 3, 1));
-        if (first) {
-            wr = _mm_move_ss(wr, _mm_set_ss(1.0f));
-            wi = _mm_move_ss(wi, _mm_setzero_ps());
-        }
-    }
+    static void twiddle(const float* t, int64_t stride, bool first, V& wr, V& wi) { twiddle4(t, stride, first, wr, wi); }
     static V neg(V v) { return _mm_xor_ps(v, _mm_set1_ps(-0.0f)); }
+    // y with lane 0 taken from x.
+    static V keep0(V y, V x) { return _mm_move_ss(y, x); }
 };
 template <> struct Lanes<double> {
     using V = __m128d;
     static constexpr int n = 2;
+    // The entries k and k + 1; the entry k = 0 is not read when first is
+    // set (the stage does not use that lane's product).
     static void twiddle(const double* t, int64_t stride, bool first, V& wr, V& wi)
     {
         const __m128d c0 = first ? _mm_setr_pd(1.0, 0.0) : _mm_load_pd(t);
@@ -55,6 +47,7 @@ template <> struct Lanes<double> {
         wi = _mm_unpackhi_pd(c0, c1);
     }
     static V neg(V v) { return _mm_xor_pd(v, _mm_set1_pd(-0.0)); }
+    static V keep0(V y, V x) { return _mm_move_sd(y, x); }
 };
 
 // The stages of spans from `span` up to N, four (two) values of k at once.
@@ -80,6 +73,10 @@ template <bool Inv, class S> void split_stages(S* re, S* im, int64_t N, const S*
                     const V* wv = w[tj[u]];
                     x[u][0] = vsub(vmul(xr, wv[0]), vmul(xi, wv[1]));
                     x[u][1] = vadd(vmul(xr, wv[1]), vmul(xi, wv[0]));
+                    if (k == 0) { // the butterfly of k = 0 is not multiplied
+                        x[u][0] = L::keep0(x[u][0], xr);
+                        x[u][1] = L::keep0(x[u][1], xi);
+                    }
                 }
                 const V t0r = vadd(ar, x[0][0]), t0i = vadd(ai, x[0][1]);
                 const V t1r = vsub(ar, x[0][0]), t1i = vsub(ai, x[0][1]);
