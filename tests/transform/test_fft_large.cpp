@@ -98,52 +98,6 @@ TEST(LargeOrders, InterleavedColumnsMatchSplitBitForBit)
     }
 }
 
-// The single-level kernel on both layouts, orders 6 to 11, on data full of
-// zeros of both signs and of values that cancel exactly: the interleaved
-// stages conjugate inside their products in the inverse, and the sums that
-// come out as zeros keep the same signs as in the split kernel.
-TEST(LargeOrders, SingleLevelInterleavedMatchesSplitOnZeros)
-{
-    tt::Rng rng(0x5e0u);
-    for (int order = 6; order <= 11; ++order) {
-        const size_t n = size_t(1) << order;
-        std::vector<Tav32fc> x(n), y(n);
-        std::vector<float> re(n), im(n), yr(n), yi(n);
-        // Zeros of random signs with two equal impulses n/2 apart: every
-        // odd bin is an exact zero whose sign the stages decide.
-        for (size_t i = 0; i < n; ++i) {
-            x[i].re = re[i] = rng.uniform(0.0, 1.0) < 0.5 ? 0.0f : -0.0f;
-            x[i].im = im[i] = rng.uniform(0.0, 1.0) < 0.5 ? 0.0f : -0.0f;
-        }
-        const size_t at = size_t(rng.uniform(0.0, double(n / 2) - 0.001));
-        x[at].re = re[at] = x[at + n / 2].re = re[at + n / 2] = 1.0f;
-        x[at].im = im[at] = x[at + n / 2].im = im[at + n / 2] = -0.5f;
-        FFTSpec_C_32fc* a = nullptr;
-        FFTSpec_C_32f* b = nullptr;
-        ASSERT_EQ(tavsFFTInitAlloc_C_32fc(&a, order, ScaleNever, 0), StatusOk);
-        ASSERT_EQ(tavsFFTInitAlloc_C_32f(&b, order, ScaleNever, 0), StatusOk);
-        for (bool inv : {false, true}) {
-            if (inv) {
-                ASSERT_EQ(tavsFFTInv_CToC_32fc(x.data(), y.data(), a, nullptr), StatusOk);
-                ASSERT_EQ(tavsFFTInv_CToC_32f(re.data(), im.data(), yr.data(), yi.data(), b, nullptr), StatusOk);
-            } else {
-                ASSERT_EQ(tavsFFTFwd_CToC_32fc(x.data(), y.data(), a, nullptr), StatusOk);
-                ASSERT_EQ(tavsFFTFwd_CToC_32f(re.data(), im.data(), yr.data(), yi.data(), b, nullptr), StatusOk);
-            }
-            size_t diffs = 0, zeros = 0;
-            for (size_t i = 0; i < n; ++i) {
-                diffs += size_t(std::memcmp(&y[i].re, &yr[i], sizeof(float)) != 0) +
-                         size_t(std::memcmp(&y[i].im, &yi[i], sizeof(float)) != 0);
-                zeros += size_t(y[i].re == 0.0f) + size_t(y[i].im == 0.0f);
-            }
-            EXPECT_EQ(diffs, 0u) << "order " << order << (inv ? " inverse" : " forward");
-            EXPECT_GT(zeros, 0u) << "order " << order; // the data did make zeros
-        }
-        tavsFFTFree_C_32fc(a);
-        tavsFFTFree_C_32f(b);
-    }
-}
-
 } // namespace
 
 // ---- orders 23 and up ---------------------------------------------------------
