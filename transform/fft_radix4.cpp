@@ -190,7 +190,7 @@ template <bool Inv, bool Last> void stage_32(float* d, int64_t N, const float* t
     const int64_t stride = 6 * (N / span);
     if (span == N) {
         // stride 6: the group's table entries are consecutive. The group of
-        // k = 0 first, so the loop reads every entry as it is.
+        // k = 0 goes first, so the loop itself needs no test of k.
         auto group = [&]<bool First>(int64_t k) {
             float* p0 = d + 2 * k;
             blocks_bfly<Inv, Last, First>(p0, p0 + 2 * q, p0 + 4 * q, p0 + 6 * q, twiddles4(tw + 6 * k, 6, First));
