@@ -57,10 +57,11 @@ template <bool Inv, class S> void split_stages(S* re, S* im, int64_t N, const S*
     using V = typename L::V;
     for (; span <= N; span *= 4) {
         const int64_t q = span / 4, stride = 6 * (N / span);
-        for (int64_t k = 0; k < q; k += L::n) {
+        // The group of k = 0 goes first: its lane 0 is not multiplied.
+        auto column = [&]<bool First>(int64_t k) {
             V w[3][2];
             for (int j = 0; j < 3; ++j) {
-                L::twiddle(tw + k * stride + 2 * j, stride, k == 0, w[j][0], w[j][1]);
+                L::twiddle(tw + k * stride + 2 * j, stride, First, w[j][0], w[j][1]);
                 if (Inv) w[j][1] = L::neg(w[j][1]); // conjugate
             }
             for (int64_t b = k; b < N; b += span) {
@@ -73,7 +74,7 @@ template <bool Inv, class S> void split_stages(S* re, S* im, int64_t N, const S*
                     const V* wv = w[tj[u]];
                     x[u][0] = vsub(vmul(xr, wv[0]), vmul(xi, wv[1]));
                     x[u][1] = vadd(vmul(xr, wv[1]), vmul(xi, wv[0]));
-                    if (k == 0) { // the butterfly of k = 0 is not multiplied
+                    if (First) {
                         x[u][0] = L::keep0(x[u][0], xr);
                         x[u][1] = L::keep0(x[u][1], xi);
                     }
@@ -99,7 +100,9 @@ template <bool Inv, class S> void split_stages(S* re, S* im, int64_t N, const S*
                     vstore(i0 + 3 * q, vadd(t1i, t3r));
                 }
             }
-        }
+        };
+        column.template operator()<true>(0);
+        for (int64_t k = L::n; k < q; k += L::n) column.template operator()<false>(k);
     }
 }
 
